@@ -1,0 +1,80 @@
+// Port: files and folders. Paths are UTF-16; a byte of a native name that is no UTF-8 travels as the lone
+// surrogate U+DC00 + byte and is written back as that byte.
+#pragma once
+
+#include <cstdint>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestri {
+
+// Attribute bits as the system's rules test them.
+enum FileAttribute : std::uint32_t {
+  kAttributeReadOnly = 1,
+  kAttributeHidden = 2,
+  kAttributeSystem = 4,
+  kAttributeDirectory = 16,
+  kAttributeArchive = 32,
+};
+
+struct FileStatus {
+  std::uint32_t attributes = 0;
+  std::uint64_t size = 0;          // bytes; 0 for a folder
+  std::time_t modified = 0;        // seconds since 1970, UTC
+};
+
+// Held while one process changes a file that several share; released by the destructor.
+class FileLock {
+ public:
+  virtual ~FileLock() = default;
+};
+
+class FileSystem {
+ public:
+  using ByteConsumer = std::function<bool(std::string_view)>;  // false stops the read
+  using ByteProducer = std::function<bool(const ByteConsumer& write)>;  // calls write until done
+
+  virtual ~FileSystem() = default;
+
+  // Follows symbolic links. Nothing when the path does not exist or cannot be looked at.
+  virtual std::optional<FileStatus> Status(std::u16string_view path) = 0;
+
+  // Reads the file from its start in pieces of at most 1 MiB. False when it cannot be opened or read.
+  virtual bool Read(std::u16string_view path, const ByteConsumer& consumer) = 0;
+
+  // Replaces or creates the file so that at every moment either the whole old or the whole new content stands
+  // under the path: temporary file in the same folder, synced, renamed over. Mode and owner stay, symbolic links
+  // are followed; a file with several hard links is written in place after a synced recovery copy beside it.
+  // False on any error, with the old file whole.
+  virtual bool Replace(std::u16string_view path, const ByteProducer& producer) = 0;
+
+  // The same without waiting for the disk: atomic for other processes and against a killed one, for files that are
+  // written often and can be done without, such as settings. A power failure may bring the old content back.
+  virtual bool ReplaceUnsynced(std::u16string_view path, const ByteProducer& producer) {
+    return Replace(path, producer);
+  }
+
+  virtual bool Append(std::u16string_view path, std::string_view bytes) = 0;
+  virtual bool Remove(std::u16string_view path) = 0;                              // a file
+  virtual bool Copy(std::u16string_view from, std::u16string_view to) = 0;        // files; mode and times kept
+  virtual bool CreateFolder(std::u16string_view path) = 0;                        // one level
+  virtual bool RemoveFolder(std::u16string_view) { return false; }                // an empty one
+  // File or folder, within one volume. False when the new name is taken.
+  virtual bool Rename(std::u16string_view, std::u16string_view) { return false; }
+  virtual bool CreateLink(std::u16string_view target, std::u16string_view link) = 0;
+  // Absolute path without ".", ".." or links; empty when it does not exist.
+  virtual std::u16string Canonical(std::u16string_view path) = 0;
+  virtual std::vector<std::u16string> List(std::u16string_view folder) = 0;       // names, without "." and ".."
+  virtual std::uint64_t FolderSize(std::u16string_view folder) = 0;               // bytes, whole tree, links not followed
+
+  // Waits until no other process or thread holds the lock of this path. Null when it cannot be locked; the caller
+  // then goes on without.
+  virtual std::unique_ptr<FileLock> Lock(std::u16string_view path) = 0;
+};
+
+}  // namespace kestri

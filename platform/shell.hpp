@@ -1,0 +1,26 @@
+// Port: the desktop's shell.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kestri {
+
+class Shell {
+ public:
+  virtual ~Shell() = default;
+
+  virtual bool Open(std::u16string_view path, std::u16string_view parameters) = 0;  // program, file or address
+  virtual bool Explore(std::u16string_view folder) = 0;
+  virtual bool Properties(std::u16string_view path) = 0;
+  virtual std::u16string TypeName(std::u16string_view path) = 0;   // words for the user; empty when unknown
+  virtual std::u16string IconName(std::u16string_view path) = 0;   // freedesktop icon name; empty when unknown
+  virtual void AddToRecentDocuments(std::u16string_view path) = 0;
+  // Program that opens the MIME type by the desktop's choice or, failing that, the first of a list of well-known
+  // ones on PATH; empty when there is none.
+  virtual std::u16string ProgramForMimeType(std::string_view mimeType) = 0;
+  // Starts a program detached from this process. Arguments are passed as they stand.
+  virtual bool StartProgram(std::u16string_view program, std::u16string_view argument) = 0;
+};
+
+}  // namespace kestri
