@@ -1,0 +1,19 @@
+// What a file keeps when its content is replaced: owner, group, mode, and extended attributes with the access
+// list.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string>
+
+#include "platform/posix/posix_calls.hpp"
+
+namespace kestri::posix {
+
+// False when the new file cannot be given the old one's owner, group and mode.
+bool KeepOwnerAndMode(PosixCalls& calls, int file, const struct stat& old);
+
+// Best effort: a volume without attributes is no reason to refuse a save.
+void KeepAttributes(int file, const std::string& oldPath);
+
+}  // namespace kestri::posix

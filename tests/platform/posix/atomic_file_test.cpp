@@ -1,0 +1,291 @@
+#include "platform/posix/atomic_file.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "tests/fakes/temporary_folder.hpp"
+#include "tests/platform/posix/failing_calls.hpp"
+
+namespace kestri::posix {
+namespace {
+
+using fakes::FailingCalls;
+using fakes::TemporaryFolder;
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+const std::string kOld(270'000, 'o');
+const std::string kNew(290'001, 'n');
+
+bool SaveIn(PosixCalls& calls, const TemporaryFolder& folder, const std::string& name,
+            const std::string& bytes, Durability durability = Durability::Synced) {
+  AtomicFile file(calls, folder.Path("recovery"), durability);
+  return file.Replace(folder.Path(name), [&](const FileSystem::ByteConsumer& write) {
+    const std::string_view all = bytes;
+    return write(all.substr(0, all.size() / 3)) && write(all.substr(all.size() / 3));
+  });
+}
+
+bool Save(const TemporaryFolder& folder, const std::string& name, const std::string& bytes) {
+  PosixCalls calls;
+  return SaveIn(calls, folder, name, bytes);
+}
+
+struct stat StatusOf(const std::string& path) {
+  struct stat status {};
+  EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+  return status;
+}
+
+TEST(AtomicFile, MakesANewFileUnderTheUsersMask) {
+  const TemporaryFolder folder;
+  const mode_t old = ::umask(027);
+  EXPECT_TRUE(Save(folder, "a.htm", kNew));
+  ::umask(old);
+  EXPECT_EQ(folder.Read("a.htm"), kNew);
+  EXPECT_EQ(StatusOf(folder.Path("a.htm")).st_mode & 07777, 0640u);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.htm"));
+}
+
+TEST(AtomicFile, ReplacesContentAndKeepsMode) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  ::chmod(folder.Path("a.htm").c_str(), 0604);
+  EXPECT_TRUE(Save(folder, "a.htm", kNew));
+  EXPECT_EQ(folder.Read("a.htm"), kNew);
+  EXPECT_EQ(StatusOf(folder.Path("a.htm")).st_mode & 07777, 0604u);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.htm"));
+}
+
+TEST(AtomicFile, KeepsOwnerAndGroup) {
+  if (::geteuid() != 0) GTEST_SKIP() << "needs the right to give files away";
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  ASSERT_EQ(::chown(folder.Path("a.htm").c_str(), 1234, 4321), 0);
+  EXPECT_TRUE(Save(folder, "a.htm", kNew));
+  EXPECT_EQ(StatusOf(folder.Path("a.htm")).st_uid, 1234u);
+  EXPECT_EQ(StatusOf(folder.Path("a.htm")).st_gid, 4321u);
+}
+
+TEST(AtomicFile, KeepsExtendedAttributes) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  if (::setxattr(folder.Path("a.htm").c_str(), "user.note", "mine", 4, 0) != 0)
+    GTEST_SKIP() << "volume has none";
+  EXPECT_TRUE(Save(folder, "a.htm", kNew));
+  char value[8] = {};
+  EXPECT_EQ(::getxattr(folder.Path("a.htm").c_str(), "user.note", value, sizeof value), 4);
+  EXPECT_STREQ(value, "mine");
+}
+
+TEST(AtomicFile, WritesThroughASymbolicLink) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path("real"));
+  folder.Write("real/page.htm", kOld);
+  std::filesystem::create_symlink("real/page.htm", folder.Path("inner.htm"));
+  std::filesystem::create_symlink(folder.Path("inner.htm"), folder.Path("outer.htm"));
+  EXPECT_TRUE(Save(folder, "outer.htm", kNew));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("outer.htm")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("inner.htm")));
+  EXPECT_EQ(folder.Read("real/page.htm"), kNew);
+}
+
+TEST(AtomicFile, CreatesTheTargetOfADanglingLink) {
+  const TemporaryFolder folder;
+  std::filesystem::create_symlink("later.htm", folder.Path("link.htm"));
+  EXPECT_TRUE(Save(folder, "link.htm", kNew));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link.htm")));
+  EXPECT_EQ(folder.Read("later.htm"), kNew);
+}
+
+TEST(AtomicFile, RefusesLinksThatRunInACircle) {
+  const TemporaryFolder folder;
+  std::filesystem::create_symlink("b", folder.Path("a"));
+  std::filesystem::create_symlink("a", folder.Path("b"));
+  EXPECT_FALSE(Save(folder, "a", kNew));
+}
+
+TEST(AtomicFile, AllHardLinksGetTheNewContent) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  std::filesystem::create_hard_link(folder.Path("a.htm"), folder.Path("b.htm"));
+  EXPECT_TRUE(Save(folder, "a.htm", kNew));
+  EXPECT_EQ(folder.Read("b.htm"), kNew);
+  EXPECT_EQ(StatusOf(folder.Path("a.htm")).st_nlink, 2u);
+  EXPECT_THAT(folder.Names(), UnorderedElementsAre("a.htm", "b.htm"));
+}
+
+TEST(AtomicFile, HardLinkedFileMayShrink) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kNew);
+  std::filesystem::create_hard_link(folder.Path("a.htm"), folder.Path("b.htm"));
+  EXPECT_TRUE(Save(folder, "a.htm", "x"));
+  EXPECT_EQ(folder.Read("b.htm"), "x");
+}
+
+TEST(AtomicFile, RefusesFoldersPipesAndDevices) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path("folder"));
+  ::mkfifo(folder.Path("pipe").c_str(), 0666);
+  std::filesystem::create_symlink("/dev/null", folder.Path("device"));
+  EXPECT_FALSE(Save(folder, "folder", kNew));
+  EXPECT_FALSE(Save(folder, "pipe", kNew));
+  EXPECT_FALSE(Save(folder, "device", kNew));
+  EXPECT_FALSE(Save(folder, "missing/a.htm", kNew));
+  EXPECT_TRUE(std::filesystem::is_fifo(folder.Path("pipe")));
+}
+
+TEST(AtomicFile, RefusesAFileWithoutWriteBits) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  ::chmod(folder.Path("a.htm").c_str(), 0444);
+  EXPECT_FALSE(Save(folder, "a.htm", kNew));
+  EXPECT_EQ(folder.Read("a.htm"), kOld);
+}
+
+TEST(AtomicFile, AProducerThatGivesUpLeavesTheOldContent) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  PosixCalls calls;
+  AtomicFile file(calls, folder.Path("recovery"), Durability::Synced);
+  EXPECT_FALSE(file.Replace(folder.Path("a.htm"), [](const FileSystem::ByteConsumer& write) {
+    write("half");
+    return false;
+  }));
+  EXPECT_EQ(folder.Read("a.htm"), kOld);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.htm"));
+}
+
+TEST(AtomicFile, FileInAClosedFolderIsWrittenInPlace) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path("closed"));
+  folder.Write("closed/a.htm", kOld);
+  FailingCalls calls;
+  calls.CloseFolder(folder.Path("closed"), EACCES);
+  const auto inode = StatusOf(folder.Path("closed/a.htm")).st_ino;
+  EXPECT_TRUE(SaveIn(calls, folder, "closed/a.htm", kNew));
+  EXPECT_EQ(folder.Read("closed/a.htm"), kNew);
+  EXPECT_EQ(StatusOf(folder.Path("closed/a.htm")).st_ino, inode);
+  EXPECT_THAT(calls.removed, testing::Contains(folder.Path("recovery/a.htm.kestrile-recovery")));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path("recovery")));
+}
+
+TEST(AtomicFile, ANewFileInAClosedFolderFails) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path("closed"));
+  FailingCalls calls;
+  calls.CloseFolder(folder.Path("closed"), EACCES);
+  EXPECT_FALSE(SaveIn(calls, folder, "closed/a.htm", kNew));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("closed/a.htm")));
+}
+
+TEST(AtomicFile, AFullDiskLeavesTheOldContentAndNoLitter) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  FailingCalls calls;
+  calls.CloseFolder(folder.Path(), ENOSPC);
+  EXPECT_FALSE(SaveIn(calls, folder, "a.htm", kNew));
+  EXPECT_EQ(folder.Read("a.htm"), kOld);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.htm"));
+}
+
+TEST(AtomicFile, ShortWritesAreContinued) {
+  const TemporaryFolder folder;
+  FailingCalls calls;
+  calls.LimitWrites(1000);
+  EXPECT_TRUE(SaveIn(calls, folder, "a.htm", kNew));
+  EXPECT_EQ(folder.Read("a.htm"), kNew);
+}
+
+TEST(AtomicFile, ALongNameGetsAShortRecoveryName) {
+  const TemporaryFolder folder;
+  const std::string name(250, 'x');
+  folder.Write(name, kOld);
+  std::filesystem::create_hard_link(folder.Path(name), folder.Path("other"));
+  EXPECT_TRUE(Save(folder, name, kNew));
+  EXPECT_EQ(folder.Read("other"), kNew);
+}
+
+TEST(AtomicFile, AnOldRecoveryCopyIsNeverOverwritten) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", kOld);
+  folder.Write("a.htm.kestrile-recovery", "rescued");
+  std::filesystem::create_hard_link(folder.Path("a.htm"), folder.Path("b.htm"));
+  EXPECT_TRUE(Save(folder, "a.htm", kNew));
+  EXPECT_EQ(folder.Read("a.htm.kestrile-recovery"), "rescued");
+}
+
+// A file system, how the file lies in it, and how many system calls its save makes.
+struct Layout {
+  const char* name;
+  int hardLinks;
+  bool isClosed;
+  Durability durability;
+};
+
+class FailureAtEveryCall : public testing::TestWithParam<Layout> {
+ protected:
+  void Prepare(const TemporaryFolder& folder) {
+    std::filesystem::create_directory(folder.Path("f"));
+    folder.Write("f/a.htm", kOld);
+    for (int link = 0; link < GetParam().hardLinks; ++link) {
+      std::filesystem::create_hard_link(folder.Path("f/a.htm"), folder.Path("f/link" + std::to_string(link)));
+    }
+  }
+
+  bool SaveWith(FailingCalls& calls, const TemporaryFolder& folder) {
+    if (GetParam().isClosed) calls.CloseFolder(folder.Path("f"), EACCES);
+    return SaveIn(calls, folder, "f/a.htm", kNew, GetParam().durability);
+  }
+
+  int CallsOfOneSave() {
+    const TemporaryFolder folder(TemporaryFolder::Medium::Memory);
+    Prepare(folder);
+    FailingCalls calls;
+    EXPECT_TRUE(SaveWith(calls, folder));
+    return calls.Made();
+  }
+};
+
+TEST_P(FailureAtEveryCall, LeavesTheWholeOldOrTheWholeNewContentAndSaysWhich) {
+  const int count = CallsOfOneSave();
+  ASSERT_GT(count, 4);
+  for (int number = 1; number <= count; ++number) {
+    const TemporaryFolder folder(TemporaryFolder::Medium::Memory);
+    Prepare(folder);
+    FailingCalls calls(number);
+    const bool saved = SaveWith(calls, folder);
+    EXPECT_TRUE(folder.Read("f/a.htm") == (saved ? kNew : kOld)) << "call " << number << " of " << count;
+  }
+}
+
+TEST_P(FailureAtEveryCall, ADiskThatDiesLosesNothingThatCannotBeFound) {
+  const int count = CallsOfOneSave();
+  for (int number = 1; number <= count; ++number) {
+    const TemporaryFolder folder(TemporaryFolder::Medium::Memory);
+    Prepare(folder);
+    FailingCalls calls(number, FailingCalls::Spread::AllFrom);
+    const bool saved = SaveWith(calls, folder);
+    const std::string content = folder.Read("f/a.htm");
+    const std::string beside = folder.Read("f/a.htm.kestrile-recovery");
+    const std::string elsewhere = folder.Read("recovery/a.htm.kestrile-recovery");
+    const bool isWhole = content == kOld || content == kNew;
+    EXPECT_TRUE(isWhole || beside == kNew || elsewhere == kNew) << "call " << number << " of " << count;
+    EXPECT_TRUE(!saved || content == kNew);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, FailureAtEveryCall,
+                         testing::Values(Layout{"Plain", 0, false, Durability::Synced},
+                                         Layout{"Unsynced", 0, false, Durability::Renamed},
+                                         Layout{"HardLinked", 1, false, Durability::Synced},
+                                         Layout{"ClosedFolder", 0, true, Durability::Synced}),
+                         [](const auto& layout) { return std::string(layout.param.name); });
+
+}  // namespace
+}  // namespace kestri::posix
