@@ -1,0 +1,78 @@
+// Text that goes into the control in one piece: the insertion helpers, paste, drop and the input method.
+#include "document/main_text.hpp"
+#include "document/pasted_text.hpp"
+
+namespace kestri {
+namespace {
+
+constexpr std::int32_t kLargeText = 32000;  // bytes of the code page
+
+}  // namespace
+
+std::u16string MainText::ExpandTabs(std::u16string_view text) const {
+  if (!subclassed_ || state_.tabSpaceCount == 0) return std::u16string(text);
+  return Replace(text, u"\t", String(4 * state_.tabSpaceCount, u' '));
+}
+
+void MainText::ReplaceSelRaw(std::u16string_view text, bool redraw, bool scroll) {
+  if (redraw) return EM_REPLACESEL(text);
+  control_.WM_SETREDRAW(false);
+  EM_REPLACESEL(text);
+  control_.WM_SETREDRAW(true);
+  if (scroll) control_.EM_SCROLLCARET();
+}
+
+void MainText::ReplaceSelHwnd(std::u16string_view text, bool redraw, bool scroll) {
+  ReplaceSelRaw(ExpandTabs(text), redraw, scroll);
+}
+
+void MainText::ReplaceSelKeep(std::u16string_view text, bool redraw, bool scroll) {
+  const std::u16string inserted = ExpandTabs(text);
+  ReplaceSelRaw(inserted, redraw, scroll);
+  if (!inserted.empty()) {
+    const Position end = control_.SelStart();
+    EM_SETSEL(end - static_cast<Position>(inserted.size()), end);
+  }
+  if (redraw) RefreshDecor();
+}
+
+void MainText::SelectWholeLines() {
+  const Position start = control_.SelStart();
+  const Position end = start + control_.SelLength();
+  EM_SETSEL(control_.LineStart(control_.LineOf(start)), control_.LineEnd(control_.LineOf(end)));
+}
+
+void MainText::RefreshDecor() {
+  host_.FocusText();
+  WM_PAINT();
+}
+
+bool MainText::AcceptsLargePaste(std::u16string_view text) {
+  if (ClassCommon::GetTextByte(text) <= kLargeText) return true;
+  const std::u16string title(kApplicationTitle);
+  const MessageAnswer answer = boxes_.Ask({
+      .text = u"32KB以上のﾃｷｽﾄが貼り付けられようとしています\r\n" + title +
+              u" は 32KB以上のﾃｷｽﾄを編集する事を推奨していません\r\nそのまま作業を進めますか？",
+      .caption = title,
+      .icon = MessageIcon::Exclamation,
+      .buttons = MessageButtons::YesNo,
+      .defaultButton = 2,
+  });
+  return answer == MessageAnswer::Yes;
+}
+
+void MainText::WM_PASTE() {
+  if (control_.Locked()) return;
+  Guarded([&] {
+    const std::u16string text = WithCrLf(clipboard_.Text());
+    if (text.empty() || !AcceptsLargePaste(text)) return;
+    EM_REPLACESEL(ExpandTabs(text));
+  });
+}
+
+void MainText::CommitInput(std::u16string_view text) {
+  if (control_.Locked() || text.empty()) return;
+  Guarded([&] { EM_REPLACESEL(WithCrLf(text)); });
+}
+
+}  // namespace kestri

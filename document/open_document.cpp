@@ -1,0 +1,154 @@
+// Opening: from a path to the control's text.
+#include <algorithm>
+#include <exception>
+
+#include "document/document.hpp"
+#include "document/settings_values.hpp"
+#include "shell/common/code_page.hpp"
+#include "shell/common/text.hpp"
+
+namespace kestri {
+namespace {
+
+constexpr std::u16string_view kEmptyHistoryPlace = u"Empty!!";
+constexpr std::size_t kAdvisedBytes = 32000;
+constexpr char16_t kUnreadable = u'\u30FB';
+
+// More characters than advised bytes are more bytes in any case.
+bool IsLongerThanAdvised(std::u16string_view text) {
+  return text.size() > kAdvisedBytes || code_page::EncodedLength(text) > kAdvisedBytes;
+}
+
+std::size_t CountUnits(std::u16string_view text, char16_t unit) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), unit));
+}
+
+// Counts the two-byte code of U+30FB in a file that arrives in pieces.
+class MiddleDotCounter {
+ public:
+  void Append(std::string_view bytes) {
+    for (const char byte : bytes) Take(static_cast<unsigned char>(byte));
+  }
+  std::size_t Count() const { return count_; }
+
+ private:
+  void Take(unsigned char byte) {
+    const bool isTrail = lead_ != 0 && byte != 0;
+    if (lead_ == 0x81 && byte == 0x45) ++count_;
+    lead_ = !isTrail && code_page::IsLeadByte(byte) ? byte : 0;
+  }
+
+  unsigned char lead_ = 0;
+  std::size_t count_ = 0;
+};
+
+}  // namespace
+
+bool Document::OpenDocument(std::u16string_view path, ReadOnly readOnly) {
+  Opening opening;
+  opening.path = path;
+  opening.readOnly = readOnly;
+  OpenResult result = OpenResult::Declined;
+  try {
+    result = TryOpen(opening);
+  } catch (const std::exception&) {
+    result = OpenResult::TextRefused;  // no memory for a text of this size
+  }
+  opening.text = {};
+  return result == OpenResult::Loaded || AfterFailedOpen(result, opening);
+}
+
+Document::OpenResult Document::TryOpen(Opening& opening) {
+  if (opening.path.empty() || opening.path == kEmptyHistoryPlace) return OpenResult::NoName;
+  const OpenResult read = Read(opening);
+  if (read != OpenResult::Loaded) return read;
+  if (!AcceptsLength(opening)) return OpenResult::Declined;
+  const BusyPointer busy(common_.PortSet().window);
+  if (!FillControl(std::move(opening.text), KeepModified::No)) return OpenResult::TextRefused;
+  FinishOpening(opening);
+  return OpenResult::Loaded;
+}
+
+Document::OpenResult Document::Read(Opening& opening) {
+  const BusyPointer busy(common_.PortSet().window);
+  if (!common_.PathExists(opening.path)) return OpenResult::NotFound;
+  opening.path = AbsolutePath(opening.path);
+  opening.longPath = common_.GetLongPath(opening.path);
+  opening.onDisk = common_.PortSet().files.Status(opening.longPath);
+  if (common_.IsFileAttribute(opening.longPath, kAttributeDirectory)) return OpenResult::Folder;
+  // Two bytes give at least one character: no need to read what the control cannot hold.
+  if (opening.onDisk && opening.onDisk->size / 2 > textLimit_ + 1) return OpenResult::TextRefused;
+  if (!common_.ReadTextFile(opening.longPath, opening.text, -1)) return KindOfNoText(opening.longPath);
+  opening.unreadable = HoldsUnreadableBytes(opening.longPath, opening.text);
+  opening.text = TabsToBlanks(std::move(opening.text));
+  opening.lineEnd = ConvertLineEnds(opening.text);
+  return OpenResult::Loaded;
+}
+
+Document::OpenResult Document::KindOfNoText(const std::u16string& longPath) {
+  if (fallbacks_.SusieSupports(UCase(common_.CFile(longPath, 2)))) return OpenResult::Picture;
+  if (SwitchedOn(common_, u"FileArcOpen") && fallbacks_.OpenArchiveQuietly(longPath))
+    return OpenResult::Archive;
+  return OpenResult::UnknownKind;
+}
+
+// Without a separator in front the path would depend on the process's folder, which follows the document.
+std::u16string Document::AbsolutePath(std::u16string_view path) const {
+  const bool relative = common_.Style() == PathStyle::Posix && path.front() != u'/';
+  const std::u16string whole = relative ? common_.PortSet().files.Canonical(path) : std::u16string();
+  return whole.empty() ? std::u16string(path) : whole;
+}
+
+std::u16string Document::ConvertLineEnds(std::u16string& text) const {
+  if (SwitchedOn(common_, u"CRLFCheck")) {
+    std::u16string kind = ClassCommon::CrLfWinOrMac(text);
+    if (kind == u"CR" || kind == u"LF") {
+      text = ClassCommon::Rermutation2(text, kind == u"CR" ? u"\r" : u"\n", kCrLf, Compare::Binary, 0);
+      return kind;
+    }
+  }
+  return u"CR+LF";
+}
+
+bool Document::AcceptsLength(const Opening& opening) {
+  if (!IsLongerThanAdvised(opening.text)) return true;
+  std::u16string text = opening.path;
+  text.append(kCrLf).append(u"32KB以上のﾃｷｽﾄが貼り付けられようとしています");
+  text.append(kCrLf).append(kApplicationTitle);
+  text.append(u" は 32KB以上のﾃｷｽﾄを編集する事を推奨していません");
+  text.append(kCrLf).append(u"そのまま作業を進めますか？");
+  return Ask(u"", text, MessageIcon::Exclamation, MessageButtons::YesNo, 2) == MessageAnswer::Yes;
+}
+
+void Document::FinishOpening(const Opening& opening) {
+  RestoreReadingPosition(opening.path);
+  ApplyOpenedFile(opening.path, opening.readOnly, opening.lineEnd);
+  onDisk_ = opening.onDisk;
+  history_.RegisterHistory(opening.path);
+  unreadableBytes_ = opening.unreadable;
+  if (unreadableBytes_) {
+    window_.MessageToStatusBar(u"ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました");
+  }
+}
+
+void Document::RestoreReadingPosition(const std::u16string& path) {
+  if (!SwitchedOn(common_, u"TextScrollPos")) return;
+  const ReadingPosition position = positions_.Of(path);
+  control_.WM_SETREDRAW(false);
+  window_.SetScrollPosition(position.scroll);
+  control_.SetSelStart(position.selStart);
+  control_.WM_SETREDRAW(true);
+}
+
+bool Document::HoldsUnreadableBytes(const std::u16string& path, std::u16string_view text) const {
+  const std::size_t dots = CountUnits(text, kUnreadable);
+  if (dots == 0) return false;
+  MiddleDotCounter counter;
+  const bool read = common_.PortSet().files.Read(path, [&counter](std::string_view bytes) {
+    counter.Append(bytes);
+    return true;
+  });
+  return read && counter.Count() < dots;
+}
+
+}  // namespace kestri
