@@ -1,0 +1,23 @@
+#include "platform/qt/qt_input_box.hpp"
+
+#include <QInputDialog>
+
+#include "platform/qt/japanese_labels.hpp"
+#include "platform/qt/qt_text.hpp"
+
+namespace kestri {
+
+std::optional<std::u16string> QtInputBox::Ask(const std::u16string& prompt, const std::u16string& title,
+                                              const std::u16string& defaultText) {
+  InstallJapaneseLabels();
+  QInputDialog dialog(owner_);
+  dialog.setWindowTitle(ToQt(title));
+  dialog.setLabelText(ToQt(prompt));
+  dialog.setTextValue(ToQt(defaultText));
+  dialog.setOkButtonText(QStringLiteral("OK"));
+  dialog.setCancelButtonText(QStringLiteral("キャンセル"));
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return FromQt(dialog.textValue());
+}
+
+}  // namespace kestri

@@ -1,0 +1,595 @@
+#include "ui/edit_view.hpp"
+
+#include <QApplication>
+#include <QMimeData>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleHints>
+#include <QTimerEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/qt_text.hpp"
+#include "ui/edit_view_accessible.hpp"
+
+namespace kestri {
+namespace {
+
+constexpr int kTextMargin = 4;  // pixels left of the text
+constexpr int kCaretWidth = 2;
+constexpr int kIdleMilliseconds = 50;
+constexpr QPoint kCaretUnknown(-9999, -9999);
+constexpr QPoint kNoMemo(-10000, -10000);
+
+QColor ToQColor(SchemeColor color) {
+  return QColor(color.red, color.green, color.blue);
+}
+
+QColor Blend(const QColor& over, const QColor& under, double share) {
+  const auto mix = [share](int a, int b) {
+    return static_cast<int>(std::lround(a * share + b * (1 - share)));
+  };
+  return QColor(mix(over.red(), under.red()), mix(over.green(), under.green()),
+                mix(over.blue(), under.blue()));
+}
+
+}  // namespace
+
+EditView::EditView(EditControl& control, MainText& text, QWidget* parent)
+    : QAbstractScrollArea(parent),
+      control_(control),
+      text_(text),
+      layouts_(control),
+      gutter_(new Gutter(this)),
+      strip_(new PositionStrip(this)) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAcceptDrops(true);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  viewport()->setCursor(Qt::IBeamCursor);
+  viewport()->setMouseTracking(true);
+  gutter_->linePressed = [this](std::int32_t line, bool extend) {
+    setFocus(Qt::MouseFocusReason);
+    if (!extend) gutterAnchor_ = line;
+    SelectLines(gutterAnchor_, line);
+  };
+  gutter_->lineDragged = [this](std::int32_t line) { SelectLines(gutterAnchor_, line); };
+  RefreshColors();
+  InstallEditViewAccessibility();
+  control_.SetEvents(this);
+  control_.SetColumnMetrics(this);
+}
+
+EditView::~EditView() {
+  control_.SetEvents(nullptr);
+  control_.SetColumnMetrics(nullptr);
+}
+
+// ---- look
+
+void EditView::SetTextFont(std::u16string_view name, double points) {
+  fontName_ = name;
+  fontPoints_ = points;
+  styleBuilt_ = false;
+  if (isVisible()) RebuildStyle();
+}
+
+void EditView::RebuildStyle() {
+  QFont font(familyOf ? familyOf(fontName_) : ToQt(fontName_));
+  font.setStyleHint(QFont::Monospace);
+  font.setKerning(false);
+  font.setPixelSize(EvenPixelSize(fontPoints_, logicalDpiY()));
+  TextStyle style = MakeTextStyle(font);
+  style.blanksShown = blanksShown_;
+  layouts_.SetStyle(style);
+  gutter_->SetStyle(style);
+  strip_->SetStyle(style);
+  styleBuilt_ = true;
+  seenWidth_ = 0;
+  RebuildMarks();
+  LayOutFrame();
+  ApplyInset();
+  pending_.all = true;
+  Schedule();
+}
+
+void EditView::RebuildMarks() {
+  if (LineEndMarksShown() && styleBuilt_)
+    marks_.BuildMarkImage(Style().font, eofMarkType_, devicePixelRatioF());
+}
+
+void EditView::SetColorScheme(const ColorScheme& scheme) {
+  scheme_ = scheme;
+  RefreshColors();
+}
+
+void EditView::RefreshColors() {
+  const QPalette& desktop = palette();
+  colors_.selectionFore = desktop.color(QPalette::HighlightedText);
+  colors_.selectionBack = desktop.color(QPalette::Highlight);
+  if (scheme_.fromPalette) {
+    colors_.fore = desktop.color(QPalette::Text);
+    colors_.back = desktop.color(QPalette::Base);
+    colors_.guide = Blend(colors_.fore, colors_.back, 0.35);
+  } else {
+    colors_.fore = ToQColor(scheme_.fore);
+    colors_.back = ToQColor(scheme_.back);
+    colors_.guide = ToQColor(scheme_.guide);
+  }
+  viewport()->update();
+}
+
+void EditView::SetGuideLines(bool on) {
+  guidesOn_ = on;
+  guides_ = GuideLines();
+  viewport()->update();
+  Schedule();
+}
+
+void EditView::SetLineEndMarks(bool on, int eofMarkType) {
+  marksOn_ = on;
+  eofMarkType_ = eofMarkType;
+  RebuildMarks();
+  viewport()->update();
+}
+
+void EditView::SetLineNumbersShown(bool shown) {
+  gutterShown_ = shown;
+  LayOutFrame();
+}
+
+void EditView::SetPositionShown(bool shown) {
+  stripShown_ = shown;
+  LayOutFrame();
+}
+
+void EditView::SetBlanksShown(bool shown) {
+  if (std::exchange(blanksShown_, shown) != shown && styleBuilt_) RebuildStyle();
+}
+
+void EditView::LayOutFrame() {
+  gutter_->setVisible(gutterShown_);
+  strip_->setVisible(stripShown_);
+  const int left = gutterShown_ ? gutter_->WidthFor(control_.LineCount()) : 0;
+  const int top = stripShown_ ? strip_->StripHeight() : 0;
+  if (viewportMargins() != QMargins(left, top, 0, 0)) setViewportMargins(left, top, 0, 0);
+  PlaceFrame();
+}
+
+void EditView::PlaceFrame() {
+  const QRect text = viewport()->geometry();
+  const QMargins margins = viewportMargins();
+  gutter_->setGeometry(text.left() - margins.left(), text.top(), margins.left(), text.height());
+  strip_->setGeometry(text.left() - margins.left(), text.top() - margins.top(), text.width() + margins.left(),
+                      margins.top());
+}
+
+// ---- host requests
+
+void EditView::SetTextHidden(bool hidden) {
+  hidden_ = hidden;
+  Thaw();
+}
+
+void EditView::RedrawSwitched(bool on) {
+  redraw_ = on;
+  Thaw();
+}
+
+// What changed while nothing was painted is not looked at piece by piece.
+void EditView::Thaw() {
+  if (Frozen()) return;
+  if (pending_.any) pending_.all = true;
+  Schedule();
+}
+
+// The gutter and the guide lines follow the caret by themselves; here the rows that may have changed are
+// painted again, unless the caret stands where it stood at the last call.
+void EditView::PaintTextDecor(MainTextHost::Decor rows) {
+  if (Frozen() || pending_.any || !styleBuilt_) return Schedule();
+  const QPoint caret = GetCaretPixel();
+  if (std::exchange(caretMemo_, caret) == caret) return;
+  if (rows == MainTextHost::Decor::ChangedLines) gutter_->RepaintRowsAround(control_.EM_LINEFROMCHAR(-1));
+}
+
+void EditView::ResetCaretMemo() {
+  caretMemo_ = kNoMemo;
+}
+
+// ---- geometry
+
+std::int32_t EditView::FirstVisibleLine() const {
+  return verticalScrollBar()->value();
+}
+
+int EditView::VisibleRows() const {
+  return std::max(1, viewport()->height() / Style().rowHeight);
+}
+
+double EditView::TextLeft() const {
+  return kTextMargin - horizontalScrollBar()->value();
+}
+
+int EditView::RowTop(std::int32_t line) const {
+  return (line - FirstVisibleLine()) * Style().rowHeight;
+}
+
+bool EditView::LineShows(std::int32_t line) const {
+  return line >= FirstVisibleLine() && RowTop(line) < viewport()->height();
+}
+
+double EditView::XOf(Position position) {
+  if (!styleBuilt_) RebuildStyle();
+  const std::int32_t line = control_.LineOf(position);
+  return layouts_.Line(line).XOf(position - control_.LineStart(line));
+}
+
+Position EditView::PositionAt(std::int32_t line, double x) {
+  if (!styleBuilt_) RebuildStyle();
+  line = std::clamp(line, 0, control_.LineCount() - 1);
+  return control_.LineStart(line) + layouts_.Line(line).ColumnAt(x);
+}
+
+std::int32_t EditView::PageLines() {
+  return std::max(1, VisibleRows() - 1);
+}
+
+Position EditView::PositionAtPoint(QPoint point) {
+  Flush();
+  const int row = static_cast<int>(std::floor(static_cast<double>(point.y()) / Style().rowHeight));
+  return PositionAt(FirstVisibleLine() + row, point.x() - TextLeft());
+}
+
+QRect EditView::RectOf(Position position) {
+  const std::int32_t line = control_.LineOf(position);
+  const double x = XOf(position);
+  const bool atEnd = position >= control_.LineEnd(line);
+  const double width = atEnd ? Style().cell : std::abs(XOf(position + 1) - x);
+  return QRect(static_cast<int>(std::floor(TextLeft() + x)), RowTop(line), static_cast<int>(std::ceil(width)),
+               Style().rowHeight);
+}
+
+QRect EditView::CaretRect() {
+  if (!styleBuilt_) RebuildStyle();
+  const std::int32_t line = control_.LineOf(control_.Caret());
+  const double x = Composing() ? layouts_.Line(line).XInInset(preeditCursor_) : XOf(control_.Caret());
+  const int width = std::max(kCaretWidth, style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));
+  const int left = static_cast<int>(std::lround(TextLeft() + x)) - width / 2;
+  return QRect(left, RowTop(line), width, Style().rowHeight);
+}
+
+QPoint EditView::GetCaretPixel() {
+  Flush();
+  if (!LineShows(control_.LineOf(control_.Caret()))) return kCaretUnknown;
+  const QRect caret = CaretRect();
+  if (!viewport()->rect().intersects(caret)) return kCaretUnknown;
+  return viewport()->mapToGlobal(QPoint(caret.center().x(), caret.top() + caret.height()));
+}
+
+EditView::ScrollState EditView::ScrollPosition() {
+  Flush();
+  return {FirstVisibleLine(), horizontalScrollBar()->value()};
+}
+
+void EditView::SetScrollPosition(ScrollState state) {
+  Flush();
+  UpdateScrollRanges();
+  if (state.x > 0) NoteWidth(state.x + viewport()->width() - kTextMargin);
+  verticalScrollBar()->setValue(state.firstLine);
+  horizontalScrollBar()->setValue(state.x);
+}
+
+void EditView::EnsureCaretVisible() {
+  if (!styleBuilt_) RebuildStyle();
+  UpdateScrollRanges();
+  const std::int32_t line = control_.LineOf(control_.Caret());
+  const std::int32_t first = FirstVisibleLine();
+  if (line < first) verticalScrollBar()->setValue(line);
+  if (line >= first + VisibleRows()) verticalScrollBar()->setValue(line - VisibleRows() + 1);
+  NoteWidth(layouts_.Line(line).Width());
+  const QRect caret = CaretRect();
+  const int width = viewport()->width();
+  const int jump = width / 4;
+  QScrollBar& bar = *horizontalScrollBar();
+  if (caret.right() < kTextMargin) {
+    const int x = caret.right() + bar.value() - kTextMargin;
+    bar.setValue(x < width - jump ? 0 : x - jump);
+  } else if (caret.right() >= width) {
+    bar.setValue(bar.value() + caret.right() - width + jump);
+  }
+}
+
+void EditView::UpdateScrollRanges() {
+  const int rows = VisibleRows();
+  verticalScrollBar()->setRange(0, std::max(0, control_.LineCount() - rows));
+  verticalScrollBar()->setPageStep(rows);
+  if (gutterShown_ && styleBuilt_ && gutter_->WidthFor(control_.LineCount()) != viewportMargins().left())
+    LayOutFrame();
+  NoteWidth(0);
+}
+
+void EditView::NoteWidth(double width) {
+  seenWidth_ = std::max(seenWidth_, width);
+  const double roomForMark = marks_.CellSize().width() + 2 * Style().cell;
+  const double content = kTextMargin + seenWidth_ + roomForMark;
+  QScrollBar& bar = *horizontalScrollBar();
+  const int most = static_cast<int>(std::clamp(content - viewport()->width(), 0.0, 2e9));
+  bar.setRange(0, std::max(most, bar.value() > most ? bar.value() : 0));
+  bar.setPageStep(viewport()->width());
+  bar.setSingleStep(static_cast<int>(2 * Style().cell));
+}
+
+// ---- what the control tells
+
+void EditView::TextReplaced(const TextChange& change) {
+  TellTextReplaced(*this, change, spokenBegin_, spoken_);
+  layouts_.TextReplaced(change);
+  pending_.text = true;
+  if (change.removed >= change.inserted && change.linesRemoved > 0 && change.at == 0) seenWidth_ = 0;
+  if (change.linesRemoved != 0 || change.linesInserted != 0) NoteLinesShifted(change);
+  pending_.firstDirty = std::min(pending_.firstDirty, change.firstLine);
+  pending_.lastDirty = std::max(pending_.lastDirty, change.firstLine + change.linesInserted);
+  Schedule();
+}
+
+void EditView::NoteLinesShifted(const TextChange& change) {
+  const std::int32_t by = change.linesInserted - change.linesRemoved;
+  const bool first = pending_.lastDirty < 0 && pending_.shiftBy == 0 && pending_.anchorBy == 0;
+  if (!first) {
+    pending_.all = true;
+  } else if (change.firstLine + change.linesRemoved < FirstVisibleLine()) {
+    pending_.anchorBy = by;
+  } else {
+    pending_.shiftFrom = change.firstLine + change.linesRemoved + 1;
+    pending_.shiftBy = by;
+  }
+}
+
+void EditView::SelectionChanged() {
+  selectionUnpublished_ = true;
+  Schedule();
+}
+
+void EditView::ScrollCaret() {
+  pending_.scrollCaret = true;
+  Schedule();
+}
+
+void EditView::Change() {
+  text_.Change();
+}
+
+// ---- bringing the screen up to date
+
+void EditView::Schedule() {
+  if (std::exchange(pending_.any, true) || Frozen()) return;
+  QMetaObject::invokeMethod(this, &EditView::Flush, Qt::QueuedConnection);
+}
+
+void EditView::Flush() {
+  if (!styleBuilt_) RebuildStyle();
+  if (!pending_.any || Frozen() || flushing_) return;
+  flushing_ = true;
+  const Pending pending = std::exchange(pending_, Pending());
+  if (Composing()) ApplyInset();
+  if (pending.anchorBy != 0) {
+    anchoring_ = true;
+    verticalScrollBar()->setRange(0, std::max(0, control_.LineCount() - VisibleRows()));
+    verticalScrollBar()->setValue(FirstVisibleLine() + pending.anchorBy);
+    anchoring_ = false;
+  }
+  UpdateScrollRanges();
+  if (pending.all) {
+    viewport()->update();
+  } else {
+    if (pending.shiftBy != 0) ShiftRows(pending.shiftFrom, pending.shiftBy);
+    UpdateRows(pending.firstDirty, pending.lastDirty);
+  }
+  UpdateSelectionRows(pending.text);
+  if (pending.scrollCaret) EnsureCaretVisible();
+  UpdateCaret();
+  UpdateDecor();
+  TellAccessibility();
+  updateMicroFocus();
+  idleTimer_.start(kIdleMilliseconds, this);
+  flushing_ = false;
+  if (caretMoved) caretMoved();
+  if (pending_.any) Schedule();
+}
+
+void EditView::UpdateRows(std::int32_t firstLine, std::int32_t lastLine) {
+  const std::int32_t first = std::max(firstLine, FirstVisibleLine());
+  const std::int32_t last = std::min(lastLine, FirstVisibleLine() + VisibleRows());
+  if (first > last) return;
+  viewport()->update(0, RowTop(first), viewport()->width(), (last - first + 1) * Style().rowHeight);
+}
+
+// Rows below the change are moved on the screen instead of being painted again.
+void EditView::ShiftRows(std::int32_t fromLine, std::int32_t by) {
+  const int height = viewport()->height();
+  const std::int64_t oldTop = static_cast<std::int64_t>(fromLine - FirstVisibleLine()) * Style().rowHeight;
+  const std::int64_t newTop = oldTop + static_cast<std::int64_t>(by) * Style().rowHeight;
+  const std::int64_t top = std::max<std::int64_t>(0, std::min(oldTop, newTop));
+  if (top >= height) return;
+  const QRect below(0, static_cast<int>(top), viewport()->width(), height - static_cast<int>(top));
+  if (guides_.visible || std::abs(newTop - oldTop) >= height || std::min(oldTop, newTop) < 0) {
+    viewport()->update(below);
+  } else {
+    viewport()->scroll(0, static_cast<int>(newTop - oldTop), below);
+  }
+  viewport()->update(0, static_cast<int>(top) - Style().rowHeight, viewport()->width(), Style().rowHeight);
+}
+
+EditView::ShownSelection EditView::CurrentSelection() const {
+  const Position begin = control_.SelStart();
+  const Position end = begin + control_.SelLength();
+  const std::int32_t beginLine = control_.LineOf(begin);
+  return {begin, end, beginLine, begin == end ? beginLine : control_.LineOf(end)};
+}
+
+void EditView::UpdateSelectionRows(bool textChanged) {
+  const ShownSelection now = CurrentSelection();
+  const ShownSelection old = std::exchange(shown_, now);
+  if (now == old || (now.Empty() && old.Empty())) return;
+  if (textChanged) return viewport()->update();
+  if (now.Empty()) return UpdateRows(old.beginLine, old.endLine);
+  if (old.Empty()) return UpdateRows(now.beginLine, now.endLine);
+  if (now.begin != old.begin) {
+    UpdateRows(std::min(now.beginLine, old.beginLine), std::max(now.beginLine, old.beginLine));
+  }
+  if (now.end != old.end) UpdateRows(std::min(now.endLine, old.endLine), std::max(now.endLine, old.endLine));
+}
+
+void EditView::UpdateCaret() {
+  const QRect old = shownCaret_;
+  shownCaret_ = LineShows(control_.LineOf(control_.Caret())) ? CaretRect() : QRect();
+  viewport()->update(old);
+  viewport()->update(shownCaret_);
+  RestartBlink();
+}
+
+void EditView::UpdateDecor() {
+  const std::int32_t line = control_.EM_LINEFROMCHAR(-1);
+  if (gutterShown_)
+    gutter_->Show({FirstVisibleLine(), control_.LineCount(), line, control_.SelLength() == 0});
+  if (stripShown_) strip_->Show(line + 1, control_.LineCount());
+  if (guidesOn_) MoveGuides();
+}
+
+void EditView::MoveGuides() {
+  if (!hasFocus()) return;
+  GuideLines now;
+  const std::int32_t line = control_.LineOf(control_.Caret());
+  now.visible = LineShows(line) && control_.SelLength() == 0;
+  if (now.visible) {
+    now.line = line;
+    now.x = CaretRect().center().x() - TextLeft();
+  }
+  if (now == guides_) return;
+  if (const auto old = ShownGuides()) viewport()->update(old->Area());
+  guides_ = now;
+  if (const auto shown = ShownGuides()) viewport()->update(shown->Area());
+}
+
+std::optional<GuideRects> EditView::ShownGuides() const {
+  if (!guidesOn_ || !guides_.visible) return std::nullopt;
+  return GuideRectsAt(static_cast<int>(std::lround(guides_.x + TextLeft())),
+                      RowTop(guides_.line) + Style().rowHeight, viewport()->size());
+}
+
+void EditView::scrollContentsBy(int dx, int dy) {
+  const int down = dy * Style().rowHeight;
+  shownCaret_.translate(dx, anchoring_ ? 0 : down);
+  if (!anchoring_) {
+    const bool near = std::abs(dx) < viewport()->width() && std::abs(dy) < VisibleRows();
+    near ? viewport()->scroll(dx, down) : viewport()->update();
+  }
+  if (!flushing_) {
+    UpdateDecor();
+    if (hasFocus()) updateMicroFocus();
+  }
+}
+
+// ---- events
+
+bool EditView::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && OwnsKey(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
+  if (event->type() == QEvent::Polish && !styleBuilt_) RebuildStyle();
+  return QAbstractScrollArea::event(event);
+}
+
+void EditView::changeEvent(QEvent* event) {
+  QAbstractScrollArea::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) RefreshColors();
+}
+
+void EditView::resizeEvent(QResizeEvent*) {
+  PlaceFrame();
+  if (!styleBuilt_) return;
+  UpdateScrollRanges();
+  Schedule();
+}
+
+void EditView::paintEvent(QPaintEvent* event) {
+  Flush();
+  if (marks_.Picture().devicePixelRatio() != devicePixelRatioF() && LineEndMarksShown()) RebuildMarks();
+  QPainter painter(viewport());
+  TextScene scene{.control = control_,
+                  .layouts = layouts_,
+                  .marks = LineEndMarksShown() ? &marks_ : nullptr,
+                  .colors = colors_,
+                  .firstLine = FirstVisibleLine(),
+                  .textLeft = TextLeft(),
+                  .guides = ShownGuides()};
+  PaintedRows painted;
+  for (const QRect& dirty : event->region()) {
+    const PaintedRows part = PaintRows(painter, dirty, scene);
+    painted.widest = std::max(painted.widest, part.widest);
+    painted.moved = painted.moved || part.moved;
+  }
+  painter.setClipping(false);
+  PaintCaret(painter);
+  layouts_.Trim(scene.firstLine, scene.firstLine + VisibleRows());
+  if (painted.widest > seenWidth_ || (painted.moved && !event->rect().contains(viewport()->rect()))) {
+    seenWidth_ = std::max(seenWidth_, painted.widest);
+    pending_.all = pending_.all || painted.moved;
+    Schedule();
+  }
+}
+
+void EditView::PaintCaret(QPainter& painter) {
+  if (dropCaret_ >= 0) {
+    const QRect place = RectOf(dropCaret_);
+    painter.fillRect(QRect(place.left(), place.top(), kCaretWidth, place.height()), colors_.fore);
+  }
+  if (caretLit_ && hasFocus() && (!Composing() || preeditCursorShown_))
+    painter.fillRect(shownCaret_, colors_.fore);
+}
+
+void EditView::RestartBlink() {
+  if (!hasFocus()) return;
+  caretLit_ = true;
+  const int period = QApplication::cursorFlashTime();
+  period > 0 ? blinkTimer_.start(period / 2, this) : blinkTimer_.stop();
+}
+
+void EditView::timerEvent(QTimerEvent* event) {
+  if (event->timerId() == blinkTimer_.timerId()) {
+    caretLit_ = !caretLit_;
+    viewport()->update(shownCaret_);
+  } else if (event->timerId() == idleTimer_.timerId()) {
+    idleTimer_.stop();
+    control_.PrepareEditAtCaret();
+  } else if (event->timerId() == autoScrollTimer_.timerId()) {
+    AutoScroll();
+  } else {
+    QAbstractScrollArea::timerEvent(event);
+  }
+}
+
+void EditView::focusInEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusInEvent(event);
+  Schedule();
+  RestartBlink();
+  viewport()->update(shownCaret_);
+}
+
+void EditView::focusOutEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusOutEvent(event);
+  blinkTimer_.stop();
+  caretLit_ = false;
+  viewport()->update(shownCaret_);
+}
+
+void EditView::TellAccessibility() {
+  TellCaretMoved(*this, spokenBegin_, spoken_);
+}
+
+}  // namespace kestri

@@ -1,0 +1,23 @@
+// What decides how a line of text is laid out: font, cells, rows. Lengths are logical pixels.
+#pragma once
+
+#include <QFont>
+
+namespace kestri {
+
+struct TextStyle {
+  QFont font;
+  double cell = 8;       // advance of a half-width blank
+  double tabWidth = 64;  // eight cells
+  double baseline = 12;  // from the row's top
+  int rowHeight = 16;
+  bool blanksShown = false;  // faint marks for full-width blanks and tabs
+};
+
+TextStyle MakeTextStyle(const QFont& font);
+
+// Pixels of a point size, rounded to an even number so that a half-width character is exactly half a
+// full-width one.
+int EvenPixelSize(double points, double dotsPerInch);
+
+}  // namespace kestri
