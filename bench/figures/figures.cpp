@@ -1,0 +1,324 @@
+// Whole-process figures of an editor, taken from outside: it is started on a display, real key events are sent, and
+// its window's damage tells when something was painted. Nothing in the measured program knows of the measurement.
+//
+//   figures PROGRAM start [FILE]        wall ms to the first painted window, CPU ms, resident MB
+//   figures PROGRAM key FILE KEYS       median and worst ms from a key press in the middle of FILE to its painting
+//   figures PROGRAM popup FILE          ms from "<" to the popup painted, first and median of the later ones
+//   figures PROGRAM save FILE           ms from Ctrl+S to the file's new time stamp
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <xcb/damage.h>
+#include <xcb/xcb.h>
+#include <xcb/xcb_keysyms.h>
+#include <xcb/xtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <optional>
+#include <poll.h>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double MillisecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+constexpr xcb_keysym_t kReturn = 0xff0d, kEscape = 0xff1b, kBackSpace = 0xff08, kNext = 0xff56, kEnd = 0xff57;
+constexpr xcb_keysym_t kControl = 0xffe3, kAlt = 0xffe9;
+
+class Display {
+ public:
+  Display() : connection_(xcb_connect(nullptr, nullptr)) {
+    const xcb_setup_t* setup = xcb_get_setup(connection_);
+    root_ = xcb_setup_roots_iterator(setup).data->root;
+    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &mask);
+    damage_ = xcb_get_extension_data(connection_, &xcb_damage_id)->first_event;
+    std::free(xcb_damage_query_version_reply(connection_, xcb_damage_query_version(connection_, 1, 1), nullptr));
+    symbols_ = xcb_key_symbols_alloc(connection_);
+    xcb_flush(connection_);
+  }
+  ~Display() {
+    xcb_key_symbols_free(symbols_);
+    xcb_disconnect(connection_);
+  }
+  Display(const Display&) = delete;
+  Display& operator=(const Display&) = delete;
+
+  // Windows mapped from now on are watched for painting.
+  struct Painted {
+    xcb_window_t window = 0;
+    bool mappedNow = false;  // the event is the mapping itself
+  };
+
+  // The next painting of a watched window, within the time; nothing when none came.
+  std::optional<Painted> NextPainting(int milliseconds) {
+    const auto start = Clock::now();
+    while (true) {
+      while (xcb_generic_event_t* event = xcb_poll_for_event(connection_)) {
+        const auto painted = Handle(*event);
+        std::free(event);
+        if (painted) return painted;
+      }
+      const int left = milliseconds - static_cast<int>(MillisecondsSince(start));
+      if (left <= 0) return std::nullopt;
+      pollfd descriptor{xcb_get_file_descriptor(connection_), POLLIN, 0};
+      poll(&descriptor, 1, left);
+    }
+  }
+
+  void Settle(int milliseconds) {
+    while (NextPainting(milliseconds)) {
+    }
+  }
+
+  void Press(xcb_keysym_t key) { Tap(key); }
+  void PressWith(xcb_keysym_t modifier, xcb_keysym_t key) {
+    Fake(XCB_KEY_PRESS, modifier);
+    Tap(key);
+    Fake(XCB_KEY_RELEASE, modifier);
+    xcb_flush(connection_);
+  }
+  void PressShifted(xcb_keysym_t key) { PressWith(0xffe1, key); }
+
+ private:
+  std::optional<Painted> Handle(const xcb_generic_event_t& event) {
+    const int type = event.response_type & 0x7f;
+    if (type == XCB_MAP_NOTIFY) {
+      const auto& map = reinterpret_cast<const xcb_map_notify_event_t&>(event);
+      Watch(map.window);
+      return std::nullopt;
+    }
+    if (type == damage_ + XCB_DAMAGE_NOTIFY) {
+      const auto& damage = reinterpret_cast<const xcb_damage_notify_event_t&>(event);
+      xcb_damage_subtract(connection_, damage.damage, 0, 0);
+      xcb_flush(connection_);
+      return Painted{damage.drawable, false};
+    }
+    return std::nullopt;
+  }
+
+  void Watch(xcb_window_t window) {
+    const xcb_damage_damage_t damage = xcb_generate_id(connection_);
+    xcb_damage_create(connection_, damage, window, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
+    xcb_flush(connection_);
+  }
+
+  void Fake(int type, xcb_keysym_t key) {
+    xcb_keycode_t* codes = xcb_key_symbols_get_keycode(symbols_, key);
+    if (codes != nullptr) xcb_test_fake_input(connection_, static_cast<std::uint8_t>(type), codes[0], 0, root_, 0, 0, 0);
+    std::free(codes);
+  }
+
+  void Tap(xcb_keysym_t key) {
+    Fake(XCB_KEY_PRESS, key);
+    Fake(XCB_KEY_RELEASE, key);
+    xcb_flush(connection_);
+  }
+
+  xcb_connection_t* connection_;
+  xcb_window_t root_ = 0;
+  int damage_ = 0;
+  xcb_key_symbols_t* symbols_ = nullptr;
+};
+
+struct Usage {
+  double cpuMilliseconds = 0;
+  double residentMegabytes = 0;
+  double privateMegabytes = 0;
+};
+
+Usage UsageOf(pid_t process) {
+  Usage usage;
+  std::ifstream stat("/proc/" + std::to_string(process) + "/stat");
+  std::string text((std::istreambuf_iterator<char>(stat)), {});
+  std::istringstream fields(text.substr(text.rfind(')') + 2));
+  std::string field;
+  for (int i = 3; i <= 15 && fields >> field; ++i) {
+    if (i >= 14) usage.cpuMilliseconds += std::stod(field) * 1000 / static_cast<double>(sysconf(_SC_CLK_TCK));
+  }
+  std::ifstream rollup("/proc/" + std::to_string(process) + "/smaps_rollup");
+  for (std::string line; std::getline(rollup, line);) {
+    std::istringstream words(line);
+    std::string name;
+    double kilobytes = 0;
+    words >> name >> kilobytes;
+    if (name == "Rss:") usage.residentMegabytes = kilobytes / 1024;
+    if (name.starts_with("Private_")) usage.privateMegabytes += kilobytes / 1024;
+  }
+  return usage;
+}
+
+// Scheduler time in milliseconds, finer than the clock ticks of stat.
+double CpuMilliseconds(pid_t process) {
+  double total = 0;
+  std::ifstream file("/proc/" + std::to_string(process) + "/schedstat");
+  file >> total;
+  return total / 1e6;
+}
+
+class Editor {
+ public:
+  Editor(const std::string& program, const std::vector<std::string>& arguments) : started_(Clock::now()) {
+    process_ = fork();
+    if (process_ == 0) {
+      std::vector<char*> argv{const_cast<char*>(program.c_str())};
+      for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+      argv.push_back(nullptr);
+      execv(program.c_str(), argv.data());
+      _exit(127);
+    }
+  }
+  ~Editor() {
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+  }
+  Editor(const Editor&) = delete;
+  Editor& operator=(const Editor&) = delete;
+
+  pid_t Process() const { return process_; }
+  double Age() const { return MillisecondsSince(started_); }
+
+ private:
+  pid_t process_ = -1;
+  Clock::time_point started_;
+};
+
+double Median(std::vector<double> values) {
+  if (values.empty()) return -1;
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+// Windows below this many bytes open without a question.
+constexpr std::uintmax_t kUnaskedBytes = 32000;
+
+std::uintmax_t SizeOf(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 ? static_cast<std::uintmax_t>(status.st_size) : 0;
+}
+
+// Answers the question about the size as soon as it shows.
+void AnswerQuestion(Display& display, const std::string& file) {
+  if (SizeOf(file) <= kUnaskedBytes) return;
+  display.Settle(150);
+  display.PressWith(kAlt, 'y');
+}
+
+int Start(const std::string& program, const std::vector<std::string>& arguments) {
+  Display display;
+  Editor editor(program, arguments);
+  const bool asked = !arguments.empty() && SizeOf(arguments[0]) > kUnaskedBytes;
+  if (!display.NextPainting(20000)) return 1;
+  double wall = editor.Age();
+  double cpu = CpuMilliseconds(editor.Process());
+  if (asked) {
+    // The time during which the question waits for its answer does not count.
+    while (display.NextPainting(300)) {
+    }
+    const double cpuAtQuestion = CpuMilliseconds(editor.Process());
+    const auto answered = Clock::now();
+    display.PressWith(kAlt, 'y');
+    double last = 0;
+    while (display.NextPainting(700)) last = MillisecondsSince(answered);
+    wall += last;
+    cpu = CpuMilliseconds(editor.Process());
+    (void)cpuAtQuestion;
+  }
+  const Usage usage = UsageOf(editor.Process());
+  std::printf("%.1f %.1f %.1f %.1f\n", wall, cpu, usage.residentMegabytes, usage.privateMegabytes);
+  return 0;
+}
+
+int Key(const std::string& program, const std::string& file, int count) {
+  Display display;
+  Editor editor(program, {file});
+  if (!display.NextPainting(20000)) return 1;
+  display.Settle(300);
+  AnswerQuestion(display, file);
+  display.Settle(1500);
+  for (int i = 0; i < 40; ++i) display.Press(kNext);
+  display.Settle(600);
+  std::vector<double> times;
+  for (int i = 0; i < count; ++i) {
+    display.Settle(30);
+    const auto pressed = Clock::now();
+    display.Press(static_cast<xcb_keysym_t>('a' + i % 26));
+    if (display.NextPainting(2000)) times.push_back(MillisecondsSince(pressed));
+  }
+  std::printf("%.2f %.2f\n", Median(times), *std::max_element(times.begin(), times.end()));
+  return 0;
+}
+
+int Popup(const std::string& program, const std::string& file, int count) {
+  Display display;
+  Editor editor(program, {file});
+  if (!display.NextPainting(20000)) return 1;
+  display.Settle(300);
+  AnswerQuestion(display, file);
+  display.Settle(1500);
+  std::vector<double> times;
+  for (int i = 0; i < count; ++i) {
+    const auto pressed = Clock::now();
+    display.PressShifted(',');
+    std::map<xcb_window_t, double> first;
+    while (const auto painted = display.NextPainting(400)) first.try_emplace(painted->window, MillisecondsSince(pressed));
+    if (!first.empty()) {
+      times.push_back(std::max_element(first.begin(), first.end(), [](const auto& a, const auto& b) {
+                        return a.second < b.second;
+                      })->second);
+    }
+    display.Press(kEscape);
+    display.Press(kBackSpace);
+    display.Settle(300);
+  }
+  if (times.empty()) return 1;
+  std::printf("%.1f %.1f\n", times.front(), Median({times.begin() + 1, times.end()}));
+  return 0;
+}
+
+int Save(const std::string& program, const std::string& file) {
+  Display display;
+  Editor editor(program, {file});
+  if (!display.NextPainting(20000)) return 1;
+  display.Settle(300);
+  AnswerQuestion(display, file);
+  display.Settle(1500);
+  display.Press('a');
+  display.Settle(300);
+  struct stat before {};
+  stat(file.c_str(), &before);
+  const auto pressed = Clock::now();
+  display.PressWith(kControl, 's');
+  for (struct stat now {}; MillisecondsSince(pressed) < 20000; usleep(500)) {
+    if (stat(file.c_str(), &now) == 0 && now.st_ino != before.st_ino) break;
+  }
+  std::printf("%.1f\n", MillisecondsSince(pressed));
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  if (words.size() < 2) return 2;
+  const std::string& what = words[1];
+  if (what == "start") return Start(words[0], {words.begin() + 2, words.end()});
+  if (words.size() < 3) return 2;
+  if (what == "key") return Key(words[0], words[2], words.size() > 3 ? std::atoi(words[3].c_str()) : 60);
+  if (what == "popup") return Popup(words[0], words[2], words.size() > 3 ? std::atoi(words[3].c_str()) : 12);
+  if (what == "save") return Save(words[0], words[2]);
+  return 2;
+}

@@ -1,0 +1,105 @@
+#include "shell/forms/command_actions.hpp"
+
+#include <QTimer>
+#include <exception>
+#include <map>
+
+#include "platform/qt/qt_text.hpp"
+#include "shell/forms/icons.hpp"
+
+namespace kestri {
+namespace {
+
+constexpr char kRowProperty[] = "commandRow";
+
+int IndexOf(const CommandRow& row) { return static_cast<int>(&row - CommandRows().data()); }
+
+// Only while their menu is open do items show whether they may run: a shortcut must never meet an item that was
+// left disabled by an earlier state of the text.
+void ShowStates(const QMenu& menu, const CommandActions& actions, bool open) {
+  for (QAction* action : menu.actions()) {
+    const QVariant index = action->property(kRowProperty);
+    if (!index.isValid()) continue;
+    const CommandRow& row = CommandRows()[static_cast<std::size_t>(index.toInt())];
+    action->setEnabled(!open || actions.MayRun(row));
+  }
+}
+
+}  // namespace
+
+CommandActions::CommandActions(EditorCommands& commands, Tell tell, QObject* parent)
+    : QObject(parent), commands_(commands), tell_(std::move(tell)) {
+  for (const CommandRow& row : CommandRows()) actions_.push_back(row.IsSeparator() ? nullptr : MakeAction(row));
+}
+
+QAction* CommandActions::MakeAction(const CommandRow& row) {
+  auto* action = new QAction(ToQt(row.caption), this);
+  action->setProperty(kRowProperty, IndexOf(row));
+  action->setObjectName(QString::fromLatin1(row.array.data(), static_cast<qsizetype>(row.array.size())) +
+                        QString::number(row.index));
+  if (!row.key.empty()) {
+    const QString key = QString::fromLatin1(row.key.data(), static_cast<qsizetype>(row.key.size()));
+    action->setShortcut(QKeySequence(key, QKeySequence::PortableText));
+  }
+  connect(action, &QAction::triggered, this, [this, &row] { Run(row); });
+  connect(action, &QAction::hovered, this, [this, &row] { tell_.hint(ToQt(row.hint)); });
+  return action;
+}
+
+QAction* CommandActions::Action(const CommandRow& row) const {
+  return actions_[static_cast<std::size_t>(IndexOf(row))];
+}
+
+void CommandActions::Run(const CommandRow& row) {
+  try {
+    if (row.enabled(commands_)) row.run(commands_);
+  } catch (const std::exception&) {
+    tell_.unknownError();
+  }
+}
+
+void CommandActions::BuildMenus(QMenuBar& bar) {
+  std::map<TopMenu, QMenu*> tops;
+  std::map<std::u16string_view, QMenu*> submenus;
+  for (const TopMenu top : TopMenus()) tops[top] = bar.addMenu(ToQt(TopMenuCaption(top)));
+  for (const CommandRow& row : CommandRows()) {
+    QMenu* menu = tops.at(row.menu);
+    if (!row.submenu.empty()) {
+      QMenu*& submenu = submenus[row.submenu];
+      if (submenu == nullptr) submenu = menu->addMenu(ToQt(row.submenu));
+      menu = submenu;
+    }
+    AddRow(*menu, row);
+  }
+  for (const auto& [top, menu] : tops) FollowMenu(*menu);
+  for (const auto& [caption, menu] : submenus) FollowMenu(*menu);
+}
+
+void CommandActions::AddRow(QMenu& menu, const CommandRow& row) {
+  if (row.IsSeparator()) {
+    menu.addSeparator();
+  } else {
+    menu.addAction(Action(row));
+  }
+}
+
+void CommandActions::FollowMenu(QMenu& menu) {
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ShowStates(menu, *this, true); });
+  connect(&menu, &QMenu::aboutToHide, this, [this, &menu] {
+    tell_.hint(QString());
+    QTimer::singleShot(0, &menu, [this, &menu] { ShowStates(menu, *this, false); });
+  });
+}
+
+void CommandActions::FillMenu(QMenu& menu, std::span<const CommandRow* const> rows) {
+  for (const CommandRow* row : rows) AddRow(menu, *row);
+  FollowMenu(menu);
+}
+
+void CommandActions::AddIcons() {
+  for (const CommandRow& row : CommandRows()) {
+    if (!row.icon.empty()) Action(row)->setIcon(CommandIcon(row.icon));
+  }
+}
+
+}  // namespace kestri

@@ -1,0 +1,52 @@
+// The menu commands as rows. Menu bar, tool bar, hints and tests all come from these.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace kestri {
+
+class EditorCommands;
+
+enum class TopMenu { File, Edit, Html, View, Help };
+
+struct CommandRow {
+  TopMenu menu;
+  std::u16string_view submenu;  // caption of the submenu that holds the row; empty: the top-level menu itself
+  std::string_view array;       // name and index of the item, empty for a separator
+  int index;
+  std::u16string_view caption;  // with "&" before the mnemonic
+  std::u16string_view hint;     // shown in the status bar
+  std::string_view key;         // shortcut in portable words, empty for none
+  std::string_view icon;        // freedesktop name, or "kestrile-..." for one of our own; empty for none
+  bool (*enabled)(const EditorCommands&);
+  void (*run)(EditorCommands&);
+  bool IsSeparator() const { return array.empty(); }
+};
+
+std::span<const CommandRow> CommandRows();
+std::u16string_view TopMenuCaption(TopMenu menu);
+std::span<const TopMenu> TopMenus();
+
+// Null when there is no such item.
+const CommandRow* FindCommand(std::string_view array, int index);
+
+// A tool bar button runs one command; its drop-down offers others.
+struct ToolRow {
+  std::string_view key;  // "New", "Open", ...; empty for a separator
+  std::u16string_view caption;
+  std::string_view array;
+  int index;
+  struct Entry {
+    std::string_view key;
+    std::u16string_view caption;  // "-" for a separator
+    std::string_view array;
+    int index;
+  };
+  std::span<const Entry> entries;
+};
+
+std::span<const ToolRow> ToolRows();
+
+}  // namespace kestri

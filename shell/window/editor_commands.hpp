@@ -1,0 +1,86 @@
+// What the menu commands do. Each is one call on the document, the text or the tag assistance.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "document/document.hpp"
+#include "document/main_text.hpp"
+#include "platform/input_box.hpp"
+#include "platform/message_box.hpp"
+#include "shell/common/application_state.hpp"
+#include "shell/common/class_common.hpp"
+#include "tags/html_edit_commands.hpp"
+
+namespace kestri {
+
+// What the commands need of the main window.
+class EditorWindow {
+ public:
+  virtual ~EditorWindow() = default;
+  virtual void CloseWindow() = 0;
+  virtual bool ToolBarVisible() const = 0;
+  virtual void ShowToolBar(bool visible) = 0;
+  virtual bool StatusBarVisible() const = 0;
+  virtual void ShowStatusBar(bool visible) = 0;
+  virtual void ShowVersion() = 0;
+};
+
+class EditorCommands {
+ public:
+  struct Surroundings {
+    const ClassCommon& common;
+    ApplicationState& state;
+    MainText& text;
+    Document& document;
+    DocumentWindow& documentWindow;
+    HtmlEditCommands& html;
+    InputBox& inputBox;
+    MessageBox& boxes;
+    EditorWindow& window;
+  };
+  explicit EditorCommands(Surroundings surroundings) : around_(surroundings) {}
+
+  // When a command may run.
+  bool Always() const { return true; }
+  bool Never() const { return false; }
+  bool CanUndo() const;
+  bool CanRedo() const;
+  bool Writable() const;
+  bool HasSelection() const;
+  bool HasSelectionToCut() const;
+  bool HasText() const;
+  bool TagToolsOn() const;  // HTML documents, or all when the setting says so
+
+  void New(std::int16_t kind);
+  void Open();
+  void Save();
+  void SaveAs();
+  void OpenCurrentFolder();
+  void Exit();
+
+  void Undo();
+  void Redo();
+  void Edit(int index);
+  void IndentMore();
+  void IndentLess();
+
+  void HTMLEdit(int index);
+  void CEdit(int index);
+  void CandidatesAtCaret();
+
+  void ToggleToolBar();
+  void ToggleStatusBar();
+  void ToggleGuideLines();
+
+  void OpenHelp(std::u16string_view fileName);
+  void ShowVersion();
+
+ private:
+  void PressIntoText(char16_t keyAscii);
+
+  Surroundings around_;
+};
+
+}  // namespace kestri

@@ -1,0 +1,25 @@
+// New documents: their kinds, extensions and templates.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "document/document.hpp"
+#include "platform/input_box.hpp"
+#include "shell/common/class_common.hpp"
+
+namespace kestri {
+
+// Extension with its dot by the kind's number; empty for a number without one, and for 11, which asks.
+std::optional<std::u16string> NewDocumentExtension(std::int16_t kind);
+
+// Kind 11: asks for the extension; a leading "." is added when missing. Nothing on cancel.
+std::optional<std::u16string> AskExtension(InputBox& box);
+
+// Replaces the document by a new one named "無題" in the current folder, filled from the template of its kind when
+// there is one. False when the user cancelled; the document is then as it was.
+bool NewText(std::int16_t kind, const ClassCommon& common, Document& document, DocumentWindow& window,
+             ApplicationState& state, InputBox& box);
+
+}  // namespace kestri

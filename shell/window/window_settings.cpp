@@ -1,0 +1,123 @@
+#include "shell/window/window_settings.hpp"
+
+#include "document/trp_string.hpp"
+#include "shell/common/code_page.hpp"
+
+namespace kestri {
+namespace {
+
+constexpr char kSetting[] = "Setting";
+constexpr char kBar[] = "Bar";
+
+void LoadEditing(SettingsReader& reader, ApplicationState& state) {
+  state.tabASeT = reader.Integer(kSetting, "TabASeT", 1);
+  state.tabSpaceCount = reader.Integer(kSetting, "TabSpaceCount", 1);
+  state.htmlNAV = reader.Integer(kSetting, "htmlNAV", 1);
+  state.htmlNAVkeyB = reader.Integer(kSetting, "htmlNAVkeyB", 0);
+  state.htmlNAVkeyB_AUTO = reader.Integer(kSetting, "htmlNAVkeyB_AUTO", 1);
+  state.textTrp = reader.Integer(kSetting, "TextTrp", 1);
+  state.trpString = reader.Text(kSetting, "TrpString", DefaultTrpString());
+  state.dragModeTrue = reader.Integer(kSetting, "DragModeTrue", 1);
+  state.menuHints = reader.Integer(kSetting, "MenuHints", 1);
+  state.popUpMen = reader.Integer(kSetting, "PopUpMen", 1);
+  state.gLine = reader.Integer(kSetting, "GLine", 0);
+}
+
+void LoadLook(SettingsReader& reader, WindowSettings& settings) {
+  settings.fontName = reader.Text(kSetting, "FontName", u"ＭＳ ゴシック");
+  settings.fontSize = reader.Long(kSetting, "FontSize", 14);
+  settings.colorLabel = reader.Text(kSetting, "ColorLabel", u"00. ﾃﾞﾌｫﾙﾄ");
+  settings.eofMark = reader.Integer(kSetting, "EofMark", 1);
+  settings.eofMarkType = reader.Integer(kSetting, "EofMarkType", 0);
+  settings.subClass = reader.Integer(kSetting, "SubClass", 1);
+  settings.menIcon = reader.Integer(kSetting, "MenIcon", 1);
+  settings.menuAnimation = reader.Integer(kSetting, "MenuAnimation", 0);
+  settings.toolBarShow = reader.Integer(kBar, "ToolBarShow0", 1);
+  settings.statusBarShow = reader.Integer(kBar, "StatusBar0", 1);
+  settings.statusBarHeight = reader.Long(kBar, "StatusBarHeight", 300);
+  settings.timerPeriod = reader.Integer(kSetting, "ClTimer", 2) * 50 + 1;
+}
+
+void LoadPlacement(SettingsReader& reader, WindowSettings& settings) {
+  const WindowRectangle initial;
+  settings.startUpWindow = reader.Text(kSetting, "StartUpWindow", u"DEFAULT");
+  settings.rectangle = {.left = reader.Long(kSetting, "HTMLfrmLeft", initial.left),
+                        .top = reader.Long(kSetting, "HTMLfrmTop", initial.top),
+                        .width = reader.Long(kSetting, "HTMLfrmWidth", initial.width),
+                        .height = reader.Long(kSetting, "HTMLfrmHeight", initial.height)};
+}
+
+std::u16string WorkingFolder(const ClassCommon& common, const SettingsReader& reader) {
+  const std::u16string folder = reader.Text(kSetting, "NawPath", u"");
+  return common.AppPath2(common.PathExists(folder) ? folder : common.GetSystemDirectory(5));
+}
+
+class SettingsWriter {
+ public:
+  explicit SettingsWriter(ProfileContent& content) : content_(content) {}
+  void Text(const char* section, const char* key, std::u16string_view value) {
+    content_.Set(section, key, code_page::Encode(value));
+  }
+  void Number(const char* section, const char* key, std::int64_t value) { Text(section, key, ToText(value)); }
+
+ private:
+  ProfileContent& content_;
+};
+
+void SaveEditing(SettingsWriter& writer, const ApplicationState& state) {
+  writer.Text(kSetting, "NawPath", state.currentFolder);
+  writer.Number(kSetting, "htmlNAVkeyB_AUTO", state.htmlNAVkeyB_AUTO);
+  writer.Number(kSetting, "htmlNAVkeyB", state.htmlNAVkeyB);
+  writer.Number(kSetting, "htmlNAV", state.htmlNAV);
+  writer.Number(kSetting, "TabSpaceCount", state.tabSpaceCount);
+  writer.Number(kSetting, "TextTrp", state.textTrp);
+  writer.Text(kSetting, "TrpString", state.trpString);
+  writer.Number(kSetting, "DragModeTrue", state.dragModeTrue);
+  writer.Number(kSetting, "MenuHints", state.menuHints);
+  writer.Number(kSetting, "PopUpMen", state.popUpMen);
+  writer.Number(kSetting, "GLine", state.gLine);
+  writer.Number(kSetting, "TabASeT", state.tabASeT);
+}
+
+void SavePlacement(SettingsWriter& writer, const WindowSettings& settings, WindowState windowState) {
+  const PlacementAtClose placement = PlacementAfter(settings.startUpWindow, windowState);
+  if (placement.saveMode) writer.Text(kSetting, "StartUpWindow", placement.mode);
+  if (!placement.saveRectangle) return;
+  writer.Number(kSetting, "HTMLfrmLeft", settings.rectangle.left);
+  writer.Number(kSetting, "HTMLfrmTop", settings.rectangle.top);
+  writer.Number(kSetting, "HTMLfrmWidth", settings.rectangle.width);
+  writer.Number(kSetting, "HTMLfrmHeight", settings.rectangle.height);
+}
+
+}  // namespace
+
+std::optional<WindowSettings> LoadWindowSettings(const ClassCommon& common, ApplicationState& state) {
+  SettingsReader reader(common.Profiles().Load(common.IniPath(0, common.ExeName())));
+  WindowSettings settings;
+  settings.workingFolder = WorkingFolder(common, reader);
+  LoadEditing(reader, state);
+  LoadLook(reader, settings);
+  LoadPlacement(reader, settings);
+  if (reader.Damaged()) return std::nullopt;
+  state.currentFolder = settings.workingFolder;
+  return settings;
+}
+
+void CountStart(const ClassCommon& common) {
+  const std::int32_t starts = ToLong(common.GetINI(common.ExeName(), u"Setting", u"Act", u"0")).value_or(0);
+  common.SetINI(common.ExeName(), u"Setting", u"Act", ToText(std::int64_t{starts} + 1));
+}
+
+void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state, const WindowSettings& settings,
+                        WindowState windowState) {
+  common.Profiles().Update(common.IniPath(0, common.ExeName()), [&](ProfileContent& content) {
+    SettingsWriter writer(content);
+    SaveEditing(writer, state);
+    writer.Text(kSetting, "FontName", settings.fontName);
+    writer.Number(kSetting, "FontSize", settings.fontSize);
+    writer.Number(kSetting, "MenuAnimation", settings.menuAnimation);
+    SavePlacement(writer, settings, windowState);
+  });
+}
+
+}  // namespace kestri

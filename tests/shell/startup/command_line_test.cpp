@@ -1,0 +1,87 @@
+#include "shell/startup/command_line.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/posix/posix_file_system.hpp"
+#include "tests/fakes/ports.hpp"
+
+namespace kestri {
+namespace {
+
+namespace fs = std::filesystem;
+
+class CommandLineTest : public testing::Test {
+ protected:
+  CommandLineTest() {
+    char pattern[] = "/tmp/kestrile-command-line-XXXXXX";
+    folder_ = mkdtemp(pattern);
+    std::ofstream(folder_ / "a b.htm") << "x";
+  }
+  ~CommandLineTest() override { fs::remove_all(folder_); }
+
+  StartMode Mode(std::u16string_view line) { return ModeOf(line, common_); }
+  std::u16string Path(const char* name) { return FromUtf8((folder_ / name).string()); }
+
+  fs::path folder_;
+  PosixFileSystem files_;
+  fakes::FakeEnvironment environment_;
+  fakes::FakeShell shell_;
+  fakes::FakeClock clock_;
+  fakes::FakeWindowServices window_;
+  ClassCommon common_{{files_, environment_, shell_, clock_, window_}, PathStyle::Posix};
+};
+
+std::u16string Line(std::vector<std::string> words) {
+  std::vector<char*> arguments;
+  for (std::string& word : words) arguments.push_back(word.data());
+  return RawCommandLine(arguments);
+}
+
+TEST_F(CommandLineTest, NoArgumentIsNoMode) { EXPECT_EQ(Mode(Line({})), StartMode::None); }
+
+TEST_F(CommandLineTest, APathWithBlanksIsOnePathQuotedOrNot) {
+  EXPECT_EQ(Line({"/x/a", "b.htm"}), u"/x/a b.htm");
+  EXPECT_EQ(Line({"\"/x/a b.htm\""}), u"/x/a b.htm");
+  EXPECT_EQ(Line({"  /x/a.htm "}), u"/x/a.htm");
+}
+
+TEST_F(CommandLineTest, AnExistingAbsolutePathIsAFileThoughItBeginsWithASlash) {
+  EXPECT_EQ(Mode(Path("a b.htm")), StartMode::File);
+  EXPECT_EQ(Mode(FromUtf8(folder_.string())), StartMode::File);
+}
+
+TEST_F(CommandLineTest, ANewNameInAnExistingFolderIsAFile) { EXPECT_EQ(Mode(Path("new.htm")), StartMode::File); }
+
+TEST_F(CommandLineTest, SwitchesWorkInAnyCaseButOnlyAlone) {
+  EXPECT_EQ(Mode(u"/SN"), StartMode::NewDocumentWindow);
+  EXPECT_EQ(Mode(u"/sn"), StartMode::NewDocumentWindow);
+  EXPECT_EQ(Mode(u"/sf"), StartMode::FileList);
+  EXPECT_EQ(Mode(Line({"/SN "})), StartMode::NewDocumentWindow);
+  EXPECT_EQ(Mode(u"/SN x"), StartMode::UnknownSwitch);
+  EXPECT_EQ(Mode(u"/SL"), StartMode::UnknownSwitch);
+  EXPECT_EQ(Mode(u"/sl C:\\x"), StartMode::UnknownSwitch);
+}
+
+TEST_F(CommandLineTest, ANameInTheRootThatDoesNotExistIsASwitch) {
+  EXPECT_EQ(Mode(u"/no-such-name"), StartMode::UnknownSwitch);
+}
+
+TEST_F(CommandLineTest, ARelativeNameIsAFile) { EXPECT_EQ(Mode(u"page.htm"), StartMode::File); }
+
+TEST_F(CommandLineTest, VersionIsAskedByExactlyOneSwitch) {
+  EXPECT_TRUE(AsksForVersion(u"/?"));
+  EXPECT_FALSE(AsksForVersion(u"/?x"));
+}
+
+TEST_F(CommandLineTest, TheVersionTextNamesVersionAndSwitches) {
+  const std::u16string text = VersionText(1, 2, 3);
+  EXPECT_TRUE(text.starts_with(u"Kestrile Ver.01.02.003e07\r\n\r\n● ｺﾏﾝﾄﾞﾗｲﾝ引数\r\n ・/SL ...  "));
+  EXPECT_NE(text.find(u"\r\n ・/?  ...  ﾊﾞｰｼﾞｮﾝを表示\r\n\r\n"), std::u16string::npos);
+}
+
+}  // namespace
+}  // namespace kestri
