@@ -16,7 +16,8 @@ struct FullTables {
     std::vector<std::u16string> params;
     for (int row = 1; row <= kMaxTableRows; ++row) {
       const std::u16string number = ToText(row);
-      tags.push_back({u"TAG" + number, u"この要素の短い説明です" + number, u"<TAG" + number + u" class=\"\">"});
+      tags.push_back(
+          {u"TAG" + number, u"この要素の短い説明です" + number, u"<TAG" + number + u" class=\"\">"});
       options.push_back({u"attr" + number, u"属性の短い説明です", AttributeKind::Attribute});
       params.push_back(u"value" + number);
     }

@@ -45,10 +45,13 @@ CandidateRow AttributeRow(const OptionRow& option) {
       return {option.name, Tip(u"ｲﾍﾞﾝﾄﾊﾝﾄﾞﾗ:", option.explain), kModeAttribute, CandidateIcon::EventHandler,
               kEventHandlerColor};
     case AttributeKind::Keyword:
-      return {option.name, Tip(u"ｷｰﾜｰﾄﾞ:", option.explain), kModeAttribute, CandidateIcon::Keyword, kKeywordColor};
-    case AttributeKind::Attribute: break;
+      return {option.name, Tip(u"ｷｰﾜｰﾄﾞ:", option.explain), kModeAttribute, CandidateIcon::Keyword,
+              kKeywordColor};
+    case AttributeKind::Attribute:
+      break;
   }
-  return {option.name, Tip(u"属性:", option.explain), kModeAttribute, CandidateIcon::Attribute, kAttributeColor};
+  return {option.name, Tip(u"属性:", option.explain), kModeAttribute, CandidateIcon::Attribute,
+          kAttributeColor};
 }
 
 void AddValue(Rows& rows, std::u16string text, std::u16string_view tip, CandidateIcon icon) {
@@ -83,10 +86,12 @@ std::vector<CandidateRow> BuildCandidates(const Dictionaries& dictionaries, cons
   Rows rows;
   AddTags(rows, dictionaries.Tags());
   for (const OptionRow& option : dictionaries.Options()) rows.push_back(AttributeRow(option));
-  for (std::u16string& word : dictionaries.Params()) AddValue(rows, std::move(word), u"", CandidateIcon::Value);
+  for (std::u16string& word : dictionaries.Params())
+    AddValue(rows, std::move(word), u"", CandidateIcon::Value);
   if (sources.lowerCase) LowerCase(rows);
   if (sources.fonts && screenFonts) {
-    for (std::u16string& font : screenFonts()) AddValue(rows, std::move(font), u"(ﾌｫﾝﾄ)", CandidateIcon::Font);
+    for (std::u16string& font : screenFonts())
+      AddValue(rows, std::move(font), u"(ﾌｫﾝﾄ)", CandidateIcon::Font);
   }
   AddNumbers(rows);
   if (sources.favourites) {
@@ -96,15 +101,15 @@ std::vector<CandidateRow> BuildCandidates(const Dictionaries& dictionaries, cons
   }
   if (sources.userFile.empty()) return rows;
   for (UserWordRow& word : dictionaries.UserWords(sources.userFile)) {
-    rows.push_back({std::move(word.key), std::move(word.hints), kModeUser, CandidateIcon::UserWord, kValueColor});
+    rows.push_back(
+        {std::move(word.key), std::move(word.hints), kModeUser, CandidateIcon::UserWord, kValueColor});
   }
   return rows;
 }
 
 int FindItem(const std::vector<CandidateRow>& rows, std::u16string_view search) {
-  const auto hit = std::ranges::find_if(rows, [&](const CandidateRow& row) {
-    return text_compare::StartsWithIgnoringCase(row.text, search);
-  });
+  const auto hit = std::ranges::find_if(
+      rows, [&](const CandidateRow& row) { return text_compare::StartsWithIgnoringCase(row.text, search); });
   return hit == rows.end() ? -1 : static_cast<int>(hit - rows.begin());
 }
 

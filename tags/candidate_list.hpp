@@ -59,7 +59,8 @@ CandidateSources ReadCandidateSources(const ClassCommon& common);
 std::vector<CandidateRow> BuildCandidates(const Dictionaries& dictionaries, const CandidateSources& sources,
                                           const ScreenFonts& screenFonts);
 
-// First row whose text begins with the search text, case ignored; every row begins with an empty one. -1: none.
+// First row whose text begins with the search text, case ignored; every row begins with an empty one. -1:
+// none.
 int FindItem(const std::vector<CandidateRow>& rows, std::u16string_view search);
 
 }  // namespace kestri

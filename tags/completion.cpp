@@ -13,14 +13,14 @@ constexpr std::u16string_view kNothingLoaded = u"展開するﾃﾞｰﾀあり�
 constexpr std::u16string_view kSetUserFile =
     u" 定義ﾌｧｲﾙを設定してください \r\n [環境設定] でﾕｰｻﾞｰ定義ﾌｧｲﾙを選ぶと、登録した語句がここに並びます ";
 
-constexpr std::size_t kRowsThatAlwaysStand = 9;  // the numbers -1 to 7
 constexpr int kMessagePane = 1;
 
 std::int32_t Setting(const ClassCommon& common, std::u16string_view key, std::u16string_view defaultValue) {
   return ToLong(common.GetINI(common.ExeName(), u"Setting", key, defaultValue)).value_or(0);
 }
 
-// Zero-based position behind the nearest break character left of the caret: the number of that character, one-based.
+// Zero-based position behind the nearest break character left of the caret: the number of that character,
+// one-based.
 Position WordStart(const EditControl& control, std::u16string_view breaks) {
   Position at = control.SelStart();
   while (at > 0 && breaks.find(control.At(at - 1)) == std::u16string_view::npos) --at;
@@ -44,7 +44,6 @@ void InToTAG::Load() {
   loaded_ = true;
   nextStart_ = -1;
   ReadSettings();
-  around_.view.SetRows(rows_);
   ShowLoaded();
   around_.view.SetListVisible(true);
 }
@@ -59,11 +58,7 @@ void InToTAG::ShowLoaded() {
   around_.host.SetStatusPane(kMessagePane, kMarking);
   editMode_ = kModeLoading;
   Preset(kModeTag);
-  if (rows_.size() > kRowsThatAlwaysStand) {
-    SelectRow(0);
-  } else {
-    around_.view.ShowTip(kNothingLoaded, nullptr);
-  }
+  if (!AnythingLoaded()) around_.view.ShowTip(kNothingLoaded, nullptr);
   around_.host.SetStatusPane(kMessagePane, u"");
 }
 
@@ -87,10 +82,21 @@ PresetResult InToTAG::Preset(std::int32_t mode) {
   if (editMode_ != mode) {
     editMode_ = mode;
     around_.view.SetListVisible(false);
+    BringModeToTop();
     around_.view.MarkMode(mode);
     around_.view.SetListVisible(true);
   }
   return mode == kModeUser ? CheckUserWords() : PresetResult::Ready;
+}
+
+// The mode's own rows stand first, so that they are the ones in sight and the first hits of a prefix; the
+// ghosted ones follow in the order of the tables.
+void InToTAG::BringModeToTop() {
+  std::ranges::stable_sort(rows_, {}, [mode = editMode_](const CandidateRow& row) {
+    return row.tag == mode ? std::int32_t{0} : row.tag;
+  });
+  around_.view.SetRows(rows_);
+  if (AnythingLoaded()) SelectRow(0);
 }
 
 bool InToTAG::HasRowOf(std::int32_t mode) const {
@@ -124,9 +130,8 @@ bool InToTAG::PrefixFromCaret(int& xOffset) {
 }
 
 void InToTAG::ShowPopup(int xOffset) {
-  const auto placement =
-      ShowAtCaret(around_.view, kPopupXOffset + xOffset, 0, HintAnimation(around_.common), around_.place,
-                  around_.host, around_.common.PortSet().window);
+  const auto placement = ShowAtCaret(around_.view, kPopupXOffset + xOffset, 0, HintAnimation(around_.common),
+                                     around_.place, around_.host, around_.common.PortSet().window);
   if (!placement) {
     nextStart_ = -1;
     return;
@@ -158,10 +163,16 @@ void InToTAG::Deactivate() {
 
 void InToTAG::KeyPress(char16_t keyAscii) {
   switch (keyAscii) {
-    case 8: Backspace(); return;
-    case 27: HidePopup(PopupFocus::ToText); return;
+    case 8:
+      Backspace();
+      return;
+    case 27:
+      HidePopup(PopupFocus::ToText);
+      return;
     case 9:
-    case 13: Accept(); return;
+    case 13:
+      Accept();
+      return;
     default:
       if (keyAscii >= 32 && keyAscii <= 126) TypeIntoText(keyAscii);
   }
@@ -217,13 +228,27 @@ void InToTAG::KeyDown(ListKey key) {
   int row = selected_;
   switch (key) {
     case ListKey::Left:
-    case ListKey::Right: HidePopup(PopupFocus::ToText); return;
-    case ListKey::Up: row -= 1; break;
-    case ListKey::Down: row += 1; break;
-    case ListKey::PageUp: row -= page; break;
-    case ListKey::PageDown: row += page; break;
-    case ListKey::Home: row = 0; break;
-    case ListKey::End: row = last; break;
+    case ListKey::Right:
+      HidePopup(PopupFocus::ToText);
+      return;
+    case ListKey::Up:
+      row -= 1;
+      break;
+    case ListKey::Down:
+      row += 1;
+      break;
+    case ListKey::PageUp:
+      row -= page;
+      break;
+    case ListKey::PageDown:
+      row += page;
+      break;
+    case ListKey::Home:
+      row = 0;
+      break;
+    case ListKey::End:
+      row = last;
+      break;
   }
   if (last >= 0) SelectRow(std::clamp(row, 0, last));
 }

@@ -37,13 +37,14 @@ class InToTAG {
   InToTAG(const InToTAG&) = delete;
   InToTAG& operator=(const InToTAG&) = delete;
 
-  // Switches the list to a mode; the first call loads the list. Without a user word, mode 5 says so in the hint box
-  // and closes.
+  // Switches the list to a mode; the first call loads the list. Without a user word, mode 5 says so in the
+  // hint box and closes.
   PresetResult Preset(std::int32_t mode);
   void Unload();
   bool Loaded() const { return loaded_; }
 
-  // The word left of the caret becomes the typed prefix. False when there is none. xOffset: the word's width, twips.
+  // The word left of the caret becomes the typed prefix. False when there is none. xOffset: the word's width,
+  // twips.
   bool PrefixFromCaret(int& xOffset);
   // HintAnimation is read, and the popup opens at the caret, moved left by 310 twips and the offset.
   void ShowPopup(int xOffset = 0);
@@ -83,6 +84,8 @@ class InToTAG {
   void Load();
   void ReadSettings();
   void ShowLoaded();
+  void BringModeToTop();
+  bool AnythingLoaded() const { return rows_.size() > kRowsThatAlwaysStand; }
   bool HasRowOf(std::int32_t mode) const;
   PresetResult CheckUserWords();
 
@@ -94,6 +97,8 @@ class InToTAG {
   void InsertChosen(std::u16string_view chosen);
   void FollowUp();
   void SelectRow(int row);
+
+  static constexpr std::size_t kRowsThatAlwaysStand = 9;  // the numbers -1 to 7
 
   Surroundings around_;
   std::vector<CandidateRow> rows_;

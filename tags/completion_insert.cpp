@@ -39,9 +39,14 @@ void InToTAG::TakeTypedBack() {
 
 void InToTAG::InsertChosen(std::u16string_view chosen) {
   switch (editMode_) {
-    case kModeTag: InsertWrapped(chosen, u"<", u">", kModeTag); break;
-    case kModeValue: InsertWrapped(chosen, kDoubleQuote, kDoubleQuote, kModeValue); break;
-    default: TypeChars(chosen, 0);
+    case kModeTag:
+      InsertWrapped(chosen, u"<", u">", kModeTag);
+      break;
+    case kModeValue:
+      InsertWrapped(chosen, kDoubleQuote, kDoubleQuote, kModeValue);
+      break;
+    default:
+      TypeChars(chosen, 0);
   }
 }
 

@@ -17,8 +17,8 @@ void CompleteDefaultTag(MainText& text, const ClassCommon& common, MainTextHost&
   }
   const auto row = Dictionaries(common).FindTag(TagNameOf(inside, Compare::Binary));
   if (!row || row->defTag.empty()) return fail(u"ﾀｸﾞのﾃﾞﾌｫﾙﾄﾊﾟﾗﾒｰﾀが見つかりませんでした");
-  const std::u16string defTag = ClassCommon::StringSurround(row->defTag, ClassCommon::Surround::Remove, u"<", u">",
-                                                            Compare::Binary, true);
+  const std::u16string defTag = ClassCommon::StringSurround(row->defTag, ClassCommon::Surround::Remove, u"<",
+                                                            u">", Compare::Binary, true);
   if (defTag == text.Control().SelText()) return;
   EditScope oneStep(text.Control());
   text.ReplaceSelKeep(defTag, true, true);

@@ -6,7 +6,8 @@
 namespace kestri {
 namespace {
 
-constexpr std::size_t kBlock = 64;  // units told empty in one go, in a loop that the compiler turns into vectors
+constexpr std::size_t kBlock =
+    64;  // units told empty in one go, in a loop that the compiler turns into vectors
 
 struct Either {
   char16_t one;
@@ -67,7 +68,8 @@ Position FirstOfEither(const EditControl& control, char16_t one, char16_t other,
   return InWhole(second, FirstIn(second.text, either));
 }
 
-Position LastOfEither(const EditControl& control, char16_t one, char16_t other, Position end, Position begin) {
+Position LastOfEither(const EditControl& control, char16_t one, char16_t other, Position end,
+                      Position begin) {
   const Either either{one, other};
   const std::u16string_view head = control.FirstPiece();
   const Part second = Clip(control.SecondPiece(), static_cast<Position>(head.size()), begin, end);

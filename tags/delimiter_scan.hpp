@@ -8,6 +8,7 @@ namespace kestri {
 // First occurrence of either at or after from; -1 when there is none.
 Position FirstOfEither(const EditControl& control, char16_t one, char16_t other, Position from);
 // Last occurrence of either before end and not before begin; -1 when there is none.
-Position LastOfEither(const EditControl& control, char16_t one, char16_t other, Position end, Position begin = 0);
+Position LastOfEither(const EditControl& control, char16_t one, char16_t other, Position end,
+                      Position begin = 0);
 
 }  // namespace kestri

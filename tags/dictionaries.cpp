@@ -54,7 +54,8 @@ std::vector<std::u16string> ReadWords(const ProfileContent& content, const Colum
   return rows;
 }
 
-bool WriteTable(const ClassCommon& common, const std::u16string& path, std::span<const ColumnWriter> columns) {
+bool WriteTable(const ClassCommon& common, const std::u16string& path,
+                std::span<const ColumnWriter> columns) {
   return common.Profiles().Update(path, [&](ProfileContent& content) {
     for (const ColumnWriter& column : columns) column.WriteTo(content);
   });
@@ -69,9 +70,12 @@ bool TooMany(const Rows& rows) {
 
 std::u16string_view KindInWords(AttributeKind kind) {
   switch (kind) {
-    case AttributeKind::EventHandler: return u"onｲﾍﾞﾝﾄﾊﾝﾄﾞﾗ";
-    case AttributeKind::Keyword: return u"ｷｰﾜｰﾄﾞ";
-    case AttributeKind::Attribute: break;
+    case AttributeKind::EventHandler:
+      return u"onｲﾍﾞﾝﾄﾊﾝﾄﾞﾗ";
+    case AttributeKind::Keyword:
+      return u"ｷｰﾜｰﾄﾞ";
+    case AttributeKind::Attribute:
+      break;
   }
   return u"属性";
 }
@@ -191,7 +195,8 @@ bool Dictionaries::WriteFavourites(std::span<const std::u16string> rows) const {
 
 std::optional<std::u16string_view> FavouriteRefusal(std::u16string_view text) {
   if (Len(text) > kMaxFieldLength) return u"256以上は登録できません";
-  if (text.find_first_of(kCrLf) != std::u16string_view::npos) return u"改行が含まれている文字列は登録できません";
+  if (text.find_first_of(kCrLf) != std::u16string_view::npos)
+    return u"改行が含まれている文字列は登録できません";
   return std::nullopt;
 }
 

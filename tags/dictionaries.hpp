@@ -1,5 +1,5 @@
-// The tag dictionaries: small profile files under DataFiles that the user edits. One section is one column of a
-// table, keys "001", "002"... number its rows; the first empty key column ends the table.
+// The tag dictionaries: small profile files under DataFiles that the user edits. One section is one column of
+// a table, keys "001", "002"... number its rows; the first empty key column ends the table.
 #pragma once
 
 #include <optional>
@@ -49,8 +49,9 @@ std::u16string_view KindInWords(AttributeKind kind);
 // True for the two spellings of the comment's row: "<!-- -->" and "!-- --".
 bool IsCommentName(std::u16string_view name);
 
-// Every read goes to the file and passes over it once; a missing file is an empty table. Values are cut at 1023
-// bytes of the code page and at the first NUL. Every write replaces its whole table as one change of the file.
+// Every read goes to the file and passes over it once; a missing file is an empty table. Values are cut at
+// 1023 bytes of the code page and at the first NUL. Every write replaces its whole table as one change of the
+// file.
 class Dictionaries {
  public:
   explicit Dictionaries(const ClassCommon& common) : common_(common) {}
@@ -65,15 +66,17 @@ class Dictionaries {
   // The row of a tag among the first 999, names in text compare.
   std::optional<TagRow> FindTag(std::u16string_view name) const;
 
-  // Rows are numbered anew from 1. False, with the file as it was, for more than 999 rows or when the file could
-  // not be written.
+  // Rows are numbered anew from 1. False, with the file as it was, for more than 999 rows or when the file
+  // could not be written.
   bool WriteTags(std::span<const TagRow> rows) const;
   bool WriteOptions(std::span<const OptionRow> rows) const;
   bool WriteParams(std::span<const std::u16string> rows) const;
-  // Each row under the key of its index from 0; an empty one is left out and so ends the table for all readers.
+  // Each row under the key of its index from 0; an empty one is left out and so ends the table for all
+  // readers.
   bool WriteFavourites(std::span<const std::u16string> rows) const;
 
-  // What the favourites' window begins with: the table, seeded with "width" and "height" when it has no first row.
+  // What the favourites' window begins with: the table, seeded with "width" and "height" when it has no first
+  // row.
   std::vector<std::u16string> SeededFavourites() const;
 
   // Path of a file in DataFiles.
@@ -85,8 +88,8 @@ class Dictionaries {
   const ClassCommon& common_;
 };
 
-// Why a text cannot become a favourite: "256以上は登録できません", "改行が含まれている文字列は登録できません", or
-// nothing when it can.
+// Why a text cannot become a favourite: "256以上は登録できません",
+// "改行が含まれている文字列は登録できません", or nothing when it can.
 std::optional<std::u16string_view> FavouriteRefusal(std::u16string_view text);
 
 }  // namespace kestri

@@ -26,7 +26,8 @@ bool StartsWithName(std::string_view key, std::string_view prefix) {
 
 // "007" is 7 and "1000" is 1000; "7", "0007" and "7a" number no row.
 std::optional<std::size_t> RowNumber(std::string_view digits) {
-  if (digits.size() < kFewestDigits || (digits.size() > kFewestDigits && digits[0] == '0')) return std::nullopt;
+  if (digits.size() < kFewestDigits || (digits.size() > kFewestDigits && digits[0] == '0'))
+    return std::nullopt;
   std::size_t number = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
   if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;

@@ -10,7 +10,8 @@
 
 namespace kestri {
 
-// Where a column's rows stand: keys are the prefix and a number of at least three digits that begins at first.
+// Where a column's rows stand: keys are the prefix and a number of at least three digits that begins at
+// first.
 struct ColumnShape {
   std::string_view section;
   std::string_view keyPrefix = "";

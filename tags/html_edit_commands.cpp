@@ -11,10 +11,17 @@ void HtmlEditCommands::HTMLEdit_Click(int index) {
     case 0:
       if (around_.tagAnalyse) around_.tagAnalyse();
       break;
-    case 1: Complete(kModeTag); break;
-    case 2: Complete(kModeAttribute); break;
-    case 3: Complete(kModeValue); break;
-    default: break;
+    case 1:
+      Complete(kModeTag);
+      break;
+    case 2:
+      Complete(kModeAttribute);
+      break;
+    case 3:
+      Complete(kModeValue);
+      break;
+    default:
+      break;
   }
 }
 

@@ -1,5 +1,5 @@
-// Commands of the HTMLEdit menu and their neighbours: completion of the word at the caret, hint, default tag, the
-// user's own words.
+// Commands of the HTMLEdit menu and their neighbours: completion of the word at the caret, hint, default tag,
+// the user's own words.
 #pragma once
 
 #include <functional>

@@ -41,7 +41,8 @@ bool InUnquotedValue(std::u16string_view head) {
   const std::size_t blank = head.find_last_of(kBlanks);
   const std::size_t equals = head.find_last_of(u'=');
   if (equals == std::u16string_view::npos) return false;
-  if (blank == std::u16string_view::npos || equals > blank) return head.find_first_of(u"\"'", equals) == head.npos;
+  if (blank == std::u16string_view::npos || equals > blank)
+    return head.find_first_of(u"\"'", equals) == head.npos;
   return head.find_first_not_of(kBlanks, equals + 1) == std::u16string_view::npos;
 }
 

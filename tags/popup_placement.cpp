@@ -47,7 +47,8 @@ PixelRect MoveEx(PixelRect window, const PixelRect& screen) {
 PopupPlacement PlaceAtCaret(const CaretSurroundings& around, const PopupRequest& request) {
   const Band taken = TakenByLine(around, request.twipsPerPixel);
   PixelRect window{around.caret.left - request.xOffset / request.twipsPerPixel,
-                   taken.below - request.yOffset / request.twipsPerPixel, request.size.width, request.size.height};
+                   taken.below - request.yOffset / request.twipsPerPixel, request.size.width,
+                   request.size.height};
   PopupPlacement placement{window, Opens::Down};
   if (window.Bottom() > around.screen.Bottom()) {
     placement.opens = Opens::Up;

@@ -47,12 +47,13 @@ struct PopupPlacement {
   bool operator==(const PopupPlacement&) const = default;
 };
 
-// Below the caret's line and the hint box, or above them when the window would pass the bottom of the screen. Where
-// neither side has room it takes the larger one and is made lower, so that the line being typed stays in sight.
+// Below the caret's line and the hint box, or above them when the window would pass the bottom of the screen.
+// Where neither side has room it takes the larger one and is made lower, so that the line being typed stays
+// in sight.
 PopupPlacement PlaceAtCaret(const CaretSurroundings& around, const PopupRequest& request);
 
-// MoveEx: what stands out to the left or top moves to the edge; what passes the right or bottom edge moves back by
-// its own size, at least to the edge.
+// MoveEx: what stands out to the left or top moves to the edge; what passes the right or bottom edge moves
+// back by its own size, at least to the edge.
 PixelRect MoveEx(PixelRect window, const PixelRect& screen);
 
 }  // namespace kestri

@@ -43,8 +43,8 @@ std::optional<TagSpan> SearchedSpan(const EditControl& control, std::u16string_v
   return TagSpan{openBefore, closeAfter};
 }
 
-std::optional<TagSpan> FindSpan(const EditControl& control, std::u16string_view open, std::u16string_view close,
-                                Compare compare) {
+std::optional<TagSpan> FindSpan(const EditControl& control, std::u16string_view open,
+                                std::u16string_view close, Compare compare) {
   if (control.SelStart() == 0 || open.empty() || close.empty()) return std::nullopt;
   if (IsOneUnit(open, close, compare)) return NearestSpan(control, open[0], close[0]);
   return SearchedSpan(control, open, close, compare);

@@ -1,4 +1,5 @@
-// Which tag the caret is in, told from the nearest delimiters alone: quotes, comments and scripts are not understood.
+// Which tag the caret is in, told from the nearest delimiters alone: quotes, comments and scripts are not
+// understood.
 #pragma once
 
 #include <cstdint>
@@ -21,9 +22,9 @@ enum class CaretKind : std::int16_t {
 inline constexpr std::int16_t kLookOnly = 1;
 inline constexpr std::int16_t kSelectSpan = 2;
 
-// The text between the last opening delimiter left of the caret and the first closing one right of it, every CR LF
-// a blank. True only inside such a span; outText is empty otherwise. Mode 1 only looks, any other mode also selects
-// the inside. The caret is SelStart; the selection's length plays no part.
+// The text between the last opening delimiter left of the caret and the first closing one right of it, every
+// CR LF a blank. True only inside such a span; outText is empty otherwise. Mode 1 only looks, any other mode
+// also selects the inside. The caret is SelStart; the selection's length plays no part.
 bool FindCaretSpan(EditControl& control, std::int16_t mode, std::u16string& outText, std::u16string_view open,
                    std::u16string_view close, Compare compare);
 

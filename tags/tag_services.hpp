@@ -9,7 +9,8 @@
 
 namespace kestri {
 
-// Made before the text that it serves; the parts come later, and each is answered for by doing nothing until then.
+// Made before the text that it serves; the parts come later, and each is answered for by doing nothing until
+// then.
 class TagServices final : public TagAssistance {
  public:
   explicit TagServices(EditControl& control) : control_(control) {}

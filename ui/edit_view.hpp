@@ -6,7 +6,9 @@
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
 #include <QElapsedTimer>
+#include <QInputMethodEvent>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,10 +25,13 @@ class QMimeData;
 
 namespace kestri {
 
+class AccessibilityTeller;
+
 class EditView : public QAbstractScrollArea, public EditControlEvents, public ColumnMetrics {
   Q_OBJECT
  public:
-  // Registers itself with the control, which must outlive the view.
+  // Registers itself with the control, which must outlive the view, and hands the control's Change to the
+  // rules.
   EditView(EditControl& control, MainText& text, QWidget* parent = nullptr);
   ~EditView() override;
 
@@ -38,7 +43,8 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   EditControl& Control() const { return control_; }
   MainText& Rules() const { return text_; }
 
-  // Look. The font's name is the settings' one; "Ｐ" in it turns line-end marks off.
+  // Look. Set familyOf before the first font. The font's name is the settings' one; "Ｐ" in it turns line-end
+  // marks off.
   void SetTextFont(std::u16string_view name, double points);
   void SetColorScheme(const ColorScheme& scheme);
   void SetGuideLines(bool on);
@@ -78,6 +84,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   const Gutter& LineNumbers() const { return *gutter_; }
   const PositionStrip& PositionDisplay() const { return *strip_; }
   const GuideLines& Guides() const { return guides_; }
+  AccessibilityTeller& Accessibility() { return *teller_; }
 
   void TextReplaced(const TextChange& change) override;
   void SelectionChanged() override;
@@ -139,32 +146,39 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   enum class Grasp { None, Selecting, MaybeDrag };  // what a held left button does
   enum class SelectionUnit { Character, Word, Line };
 
-  // edit_view.cpp: geometry, scrolling, repainting.
+  static constexpr int kTextMargin = 4;  // left of the text
+
+  // edit_view.cpp: look, geometry, events of the widget.
   void RebuildStyle();
   void RebuildMarks();
   void RefreshColors();
   void LayOutFrame();
   void PlaceFrame();
+  bool LineShows(std::int32_t line) const;
+  int RowTop(std::int32_t line) const;
+  double TextLeft() const;
+  void RestartBlink();
+  void PaintCaret(QPainter& painter);
+
+  // edit_view_refresh.cpp: what changed, and bringing the screen up to date.
   void Schedule();
+  void Post();
   bool Frozen() const { return hidden_ || !redraw_; }
   void Thaw();
+  void NoteNewText();
   void NoteLinesShifted(const TextChange& change);
+  void FollowLinesAbove(std::int32_t by);
   void UpdateScrollRanges();
   void NoteWidth(double width);
   void UpdateRows(std::int32_t firstLine, std::int32_t lastLine);
   void ShiftRows(std::int32_t fromLine, std::int32_t by);
+  void UpdateChangedRows(const Pending& pending);
   void UpdateSelectionRows(bool textChanged);
   ShownSelection CurrentSelection() const;
   void UpdateCaret();
   void UpdateDecor();
   void MoveGuides();
   std::optional<GuideRects> ShownGuides() const;
-  void RestartBlink();
-  bool LineShows(std::int32_t line) const;
-  int RowTop(std::int32_t line) const;
-  double TextLeft() const;
-  void PaintCaret(QPainter& painter);
-  void TellAccessibility();
 
   // edit_view_input.cpp: keys and input method.
   bool OwnsKey(const QKeyEvent& event) const;
@@ -175,6 +189,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void FinishUserEdit();
   void ApplyInset();
   void SetPreedit(const QInputMethodEvent& event);
+  void TakeAttribute(const QInputMethodEvent::Attribute& attribute);
   void CommitFromInputMethod(const QInputMethodEvent& event);
   QPair<Position, Position> SurroundingRange() const;
 
@@ -243,9 +258,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool selectionUnpublished_ = false;
   std::int32_t gutterAnchor_ = 0;
 
-  // For the events of assistive technology: the caret's surroundings before the next change.
-  Position spokenBegin_ = 0;
-  std::u16string spoken_;
+  std::unique_ptr<AccessibilityTeller> teller_;
 };
 
 }  // namespace kestri

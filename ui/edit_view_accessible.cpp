@@ -24,50 +24,71 @@ QAccessibleInterface* Create(const QString&, QObject* object) {
   return view ? new EditViewAccessible(*view) : nullptr;
 }
 
-// What stood at [at, at + removed) before the change, as far as it was remembered.
-QString Removed(const TextChange& change, Position begin, const std::u16string& remembered) {
-  const Position end = begin + static_cast<Position>(remembered.size());
-  if (change.at >= begin && change.at + change.removed <= end) {
-    return ToQt(remembered.substr(static_cast<std::size_t>(change.at - begin),
-                                  static_cast<std::size_t>(change.removed)));
-  }
-  return QString(std::min(change.removed, kRemembered), QChar(' '));
-}
-
 }  // namespace
 
 void InstallEditViewAccessibility() {
   QAccessible::installFactory(Create);
 }
 
-void TellTextReplaced(EditView& view, const TextChange& change, Position begin,
-                      const std::u16string& remembered) {
-  if (!QAccessible::isActive()) return;
+AccessibilityTeller::AccessibilityTeller(EditView& view) : view_(view), listening_(QAccessible::isActive()) {
+  QAccessible::installActivationObserver(this);
+}
+
+AccessibilityTeller::~AccessibilityTeller() {
+  QAccessible::removeActivationObserver(this);
+}
+
+void AccessibilityTeller::accessibilityActiveChanged(bool active) {
+  listening_ = active;
+  if (listening_) Remember();
+}
+
+void AccessibilityTeller::Remember() {
+  const EditControl& control = view_.Control();
+  begin_ = std::max(0, control.Caret() - kRemembered);
+  remembered_ = control.Slice(begin_, 2 * kRemembered);
+}
+
+// What stood there before the change, as far as it was remembered; blanks for the rest.
+QString AccessibilityTeller::Removed(const TextChange& change) const {
+  const Position end = begin_ + static_cast<Position>(remembered_.size());
+  if (change.at < begin_ || change.at + change.removed > end) {
+    return QString(std::min(change.removed, kRemembered), QChar(' '));
+  }
+  return ToQt(
+      std::u16string_view(remembered_)
+          .substr(static_cast<std::size_t>(change.at - begin_), static_cast<std::size_t>(change.removed)));
+}
+
+void AccessibilityTeller::TextReplaced(const TextChange& change) {
+  if (!listening_) return;
   if (change.removed > 0) {
-    QAccessibleTextRemoveEvent event(&view, change.at, Removed(change, begin, remembered));
-    QAccessible::updateAccessibility(&event);
+    QAccessibleTextRemoveEvent event(&view_, change.at, Removed(change));
+    send(&event);
   }
   if (change.inserted > 0) {
     const Position told = std::min(change.inserted, kLargestValue);
-    QAccessibleTextInsertEvent event(&view, change.at, ToQt(view.Control().Slice(change.at, told)));
-    QAccessible::updateAccessibility(&event);
+    QAccessibleTextInsertEvent event(&view_, change.at, ToQt(view_.Control().Slice(change.at, told)));
+    send(&event);
   }
+  Remember();
 }
 
-void TellCaretMoved(EditView& view, Position& begin, std::u16string& remembered) {
-  if (!QAccessible::isActive()) return;
-  const EditControl& control = view.Control();
-  const Position caret = control.Caret();
-  begin = std::max(0, caret - kRemembered);
-  remembered = control.Slice(begin, 2 * kRemembered);
-  if (control.SelLength() != 0) {
-    QAccessibleTextSelectionEvent event(&view, control.SelStart(), control.SelStart() + control.SelLength());
-    event.setCursorPosition(caret);
-    QAccessible::updateAccessibility(&event);
-    return;
+void AccessibilityTeller::CaretMoved() {
+  if (!listening_) return;
+  const EditControl& control = view_.Control();
+  const bool selected = toldCaret_ != toldAnchor_ || control.SelLength() != 0;
+  if (control.Caret() == toldCaret_ && control.Anchor() == toldAnchor_) return;
+  toldCaret_ = control.Caret();
+  toldAnchor_ = control.Anchor();
+  Remember();
+  if (selected) {
+    QAccessibleTextSelectionEvent event(&view_, control.SelStart(), control.SelStart() + control.SelLength());
+    event.setCursorPosition(toldCaret_);
+    send(&event);
   }
-  QAccessibleTextCursorEvent event(&view, caret);
-  QAccessible::updateAccessibility(&event);
+  QAccessibleTextCursorEvent event(&view_, toldCaret_);
+  send(&event);
 }
 
 EditViewAccessible::EditViewAccessible(EditView& view)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <functional>
 #include <string>
 
 #include "document/edit_control/edit_control.hpp"
@@ -13,11 +14,32 @@ class EditView;
 // Once is enough; every further call is ignored.
 void InstallEditViewAccessibility();
 
-// Events. The surroundings of the caret are remembered from one event to the next, because a change is told
-// after the removed text has gone.
-void TellTextReplaced(EditView& view, const TextChange& change, Position spokenBegin,
-                      const std::u16string& spoken);
-void TellCaretMoved(EditView& view, Position& spokenBegin, std::u16string& spoken);
+// Tells assistive technology of changes while any listens. The surroundings of the caret are remembered from
+// one event to the next, because a change is told after the removed text has gone.
+class AccessibilityTeller : public QAccessible::ActivationObserver {
+ public:
+  explicit AccessibilityTeller(EditView& view);
+  ~AccessibilityTeller() override;
+  AccessibilityTeller(const AccessibilityTeller&) = delete;
+  AccessibilityTeller& operator=(const AccessibilityTeller&) = delete;
+
+  std::function<void(QAccessibleEvent*)> send = QAccessible::updateAccessibility;
+
+  void TextReplaced(const TextChange& change);
+  void CaretMoved();
+  void accessibilityActiveChanged(bool active) override;
+
+ private:
+  void Remember();
+  QString Removed(const TextChange& change) const;
+
+  EditView& view_;
+  bool listening_;
+  Position begin_ = 0;
+  std::u16string remembered_;
+  Position toldCaret_ = -1;
+  Position toldAnchor_ = -1;
+};
 
 class EditViewAccessible : public QAccessibleWidget,
                            public QAccessibleTextInterface,

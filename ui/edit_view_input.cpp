@@ -112,12 +112,10 @@ bool TypesSeveralUnits(const QKeyEvent& event) {
   return (event.modifiers() & kCommandModifiers) == 0 && text.size() > 1 && text[0].unicode() >= 0x20;
 }
 
-QTextLayout::FormatRange Underlined(int start, int length) {
-  QTextLayout::FormatRange range;
-  range.start = start;
-  range.length = length;
-  range.format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
-  return range;
+QTextLayout::FormatRange Underlined(int length) {
+  QTextCharFormat format;
+  format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+  return {0, length, format};
 }
 
 }  // namespace
@@ -245,31 +243,27 @@ void EditView::CommitFromInputMethod(const QInputMethodEvent& event) {
 
 void EditView::SetPreedit(const QInputMethodEvent& event) {
   const bool had = Composing();
-  preedit_ = Inset{.text = event.preeditString(), .formats = {}};
-  preeditCursor_ = static_cast<int>(preedit_.text.size());
+  const int length = static_cast<int>(event.preeditString().size());
+  preedit_ = Inset{.text = event.preeditString(), .formats = {Underlined(length)}};
+  preeditCursor_ = length;
   preeditCursorShown_ = true;
-  for (const QInputMethodEvent::Attribute& attribute : event.attributes()) {
-    if (attribute.type == QInputMethodEvent::Cursor) {
-      preeditCursor_ = std::clamp(attribute.start, 0, static_cast<int>(preedit_.text.size()));
-      preeditCursorShown_ = attribute.length != 0;
-    } else if (attribute.type == QInputMethodEvent::TextFormat) {
-      const QTextFormat format = attribute.value.value<QTextFormat>();
-      if (!format.isCharFormat() || attribute.length <= 0) continue;
-      QTextLayout::FormatRange range = Underlined(attribute.start, attribute.length);
-      if (format.toCharFormat().hasProperty(QTextFormat::TextUnderlineStyle)) {
-        range.format = format.toCharFormat();
-      } else {
-        range.format.merge(format);
-      }
-      preedit_.formats.append(range);
-    } else if (attribute.type == QInputMethodEvent::Selection && preedit_.text.isEmpty()) {
-      const Position begin = SurroundingRange().first + attribute.start;
-      text_.EM_SETSEL(begin, begin + attribute.length);
-    }
-  }
-  if (preedit_.formats.isEmpty())
-    preedit_.formats.append(Underlined(0, static_cast<int>(preedit_.text.size())));
+  for (const QInputMethodEvent::Attribute& attribute : event.attributes()) TakeAttribute(attribute);
   if (had || Composing()) ApplyInset();
+}
+
+void EditView::TakeAttribute(const QInputMethodEvent::Attribute& attribute) {
+  if (attribute.type == QInputMethodEvent::Cursor) {
+    preeditCursor_ = std::clamp(attribute.start, 0, static_cast<int>(preedit_.text.size()));
+    preeditCursorShown_ = attribute.length != 0;
+  } else if (attribute.type == QInputMethodEvent::TextFormat) {
+    const QTextCharFormat format = attribute.value.value<QTextFormat>().toCharFormat();
+    if (format.isValid() && attribute.length > 0) {
+      preedit_.formats.append({attribute.start, attribute.length, format});
+    }
+  } else if (attribute.type == QInputMethodEvent::Selection && !Composing()) {
+    const Position begin = SurroundingRange().first + attribute.start;
+    text_.EM_SETSEL(begin, begin + attribute.length);
+  }
 }
 
 // The pre-edit stands at the caret, in the line's layout only.
@@ -295,7 +289,7 @@ QVariant EditView::inputMethodQuery(Qt::InputMethodQuery query) const {
     case Qt::ImEnabled:
       return !control_.Locked();
     case Qt::ImHints:
-      return static_cast<int>(Qt::ImhMultiLine | Qt::ImhNoAutoUppercase | Qt::ImhNoPredictiveText);
+      return static_cast<int>(Qt::ImhMultiLine);
     case Qt::ImCursorRectangle:
     case Qt::ImAnchorRectangle: {
       const QRect caretRect = const_cast<EditView*>(this)->CaretRect();

@@ -45,6 +45,7 @@ bool FontAllowsLineEndMarks(std::u16string_view fontName) {
 
 void LineEndMarks::BuildMarkImage(const QFont& textFont, int eofMarkType, double devicePixelRatio) {
   scale_ = CellScale(textFont);
+  devicePixelRatio_ = devicePixelRatio;
   const double pixelScale = scale_ * devicePixelRatio;
   picture_ = QPixmap(static_cast<int>(std::ceil((kReturnColumn + kMarkWidth) * pixelScale)),
                      static_cast<int>(std::ceil(kMarkHeight * pixelScale)));

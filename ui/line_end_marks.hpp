@@ -29,10 +29,12 @@ class LineEndMarks {
   void Draw(QPainter& painter, double x, int rowTop, int rowHeight, LineEndMark mark) const;
   QSizeF CellSize() const { return QSizeF(kMarkWidth * scale_, kMarkHeight * scale_); }
   const QPixmap& Picture() const { return picture_; }
+  double DevicePixelRatio() const { return devicePixelRatio_; }  // 0 before the first picture
 
  private:
   QPixmap picture_;
   double scale_ = 1;
+  double devicePixelRatio_ = 0;
 };
 
 }  // namespace kestri

@@ -40,8 +40,8 @@ QTextOption LineOption(const TextStyle& style) {
   return option;
 }
 
-// The caret place nearest to x in a line that runs left to right. QTextLine::xToCursor misses the place behind a
-// character of several units that is shown as one.
+// The caret place nearest to x in a line that runs left to right. QTextLine::xToCursor misses the place
+// behind a character of several units that is shown as one.
 int NearestPlace(const QTextLayout& layout, double x) {
   const QTextLine line = layout.lineAt(0);
   int left = 0;

@@ -17,8 +17,8 @@
 
 namespace kestri {
 
-inline constexpr Position kLongLine = 2000;
-inline constexpr Position kSegmentLength = 1000;
+inline constexpr Position kLongLine = 512;  // also the most that one segment grows to
+inline constexpr Position kSegmentLength = 256;
 
 // Text of the input method, shown in the line without being part of it.
 struct Inset {

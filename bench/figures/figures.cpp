@@ -1,5 +1,6 @@
 // Whole-process figures of an editor, taken from outside: it is started on a display, real key events are sent, and
 // its window's damage tells when something was painted. Nothing in the measured program knows of the measurement.
+// Run it on a display without a window manager: a frame's own painting would count.
 //
 //   figures PROGRAM start [FILE]        wall ms to the first painted window, CPU ms, resident MB
 //   figures PROGRAM key FILE KEYS       median and worst ms from a key press in the middle of FILE to its painting
@@ -41,6 +42,10 @@ constexpr xcb_keysym_t kControl = 0xffe3, kAlt = 0xffe9;
 class Display {
  public:
   Display() : connection_(xcb_connect(nullptr, nullptr)) {
+    if (xcb_connection_has_error(connection_) != 0) {
+      std::fputs("figures: no display\n", stderr);
+      std::exit(1);
+    }
     const xcb_setup_t* setup = xcb_get_setup(connection_);
     root_ = xcb_setup_roots_iterator(setup).data->root;
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
@@ -60,7 +65,6 @@ class Display {
   // Windows mapped from now on are watched for painting.
   struct Painted {
     xcb_window_t window = 0;
-    bool mappedNow = false;  // the event is the mapping itself
   };
 
   // The next painting of a watched window, within the time; nothing when none came.
@@ -79,8 +83,10 @@ class Display {
     }
   }
 
-  void Settle(int milliseconds) {
-    while (NextPainting(milliseconds)) {
+  // Lets the time pass; the caret's blinking never ends a wait for silence.
+  void Drain(int milliseconds) {
+    for (const auto start = Clock::now(); MillisecondsSince(start) < milliseconds;) {
+      NextPainting(std::max(1, milliseconds - static_cast<int>(MillisecondsSince(start))));
     }
   }
 
@@ -99,15 +105,31 @@ class Display {
     if (type == XCB_MAP_NOTIFY) {
       const auto& map = reinterpret_cast<const xcb_map_notify_event_t&>(event);
       Watch(map.window);
+      if (map.override_redirect == 0) {
+        open_.push_back(map.window);
+        FocusLast();
+      }
+      return std::nullopt;
+    }
+    if (type == XCB_UNMAP_NOTIFY) {
+      std::erase(open_, reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window);
+      FocusLast();
       return std::nullopt;
     }
     if (type == damage_ + XCB_DAMAGE_NOTIFY) {
       const auto& damage = reinterpret_cast<const xcb_damage_notify_event_t&>(event);
       xcb_damage_subtract(connection_, damage.damage, 0, 0);
       xcb_flush(connection_);
-      return Painted{damage.drawable, false};
+      return Painted{damage.drawable};
     }
     return std::nullopt;
+  }
+
+  // What a window manager would do: the window opened last has the keyboard.
+  void FocusLast() {
+    if (open_.empty()) return;
+    xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_PARENT, open_.back(), XCB_CURRENT_TIME);
+    xcb_flush(connection_);
   }
 
   void Watch(xcb_window_t window) {
@@ -132,6 +154,7 @@ class Display {
   xcb_window_t root_ = 0;
   int damage_ = 0;
   xcb_key_symbols_t* symbols_ = nullptr;
+  std::vector<xcb_window_t> open_;
 };
 
 struct Usage {
@@ -202,7 +225,10 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-// Windows below this many bytes open without a question.
+// Shorter than the caret's blinking, longer than any pause within one piece of work.
+constexpr int kQuiet = 300;
+
+// Documents up to this many bytes open without a question.
 constexpr std::uintmax_t kUnaskedBytes = 32000;
 
 std::uintmax_t SizeOf(const std::string& path) {
@@ -213,8 +239,17 @@ std::uintmax_t SizeOf(const std::string& path) {
 // Answers the question about the size as soon as it shows.
 void AnswerQuestion(Display& display, const std::string& file) {
   if (SizeOf(file) <= kUnaskedBytes) return;
-  display.Settle(150);
+  while (display.NextPainting(kQuiet)) {
+  }
   display.PressWith(kAlt, 'y');
+}
+
+// Waits until the document stands in the window.
+bool Opened(Display& display, const std::string& file) {
+  if (!display.NextPainting(20000)) return false;
+  AnswerQuestion(display, file);
+  display.Drain(2000);
+  return true;
 }
 
 int Start(const std::string& program, const std::vector<std::string>& arguments) {
@@ -226,16 +261,13 @@ int Start(const std::string& program, const std::vector<std::string>& arguments)
   double cpu = CpuMilliseconds(editor.Process());
   if (asked) {
     // The time during which the question waits for its answer does not count.
-    while (display.NextPainting(300)) {
-    }
-    const double cpuAtQuestion = CpuMilliseconds(editor.Process());
+    while (display.NextPainting(kQuiet)) wall = editor.Age();
     const auto answered = Clock::now();
     display.PressWith(kAlt, 'y');
     double last = 0;
-    while (display.NextPainting(700)) last = MillisecondsSince(answered);
+    while (display.NextPainting(kQuiet)) last = MillisecondsSince(answered);
     wall += last;
     cpu = CpuMilliseconds(editor.Process());
-    (void)cpuAtQuestion;
   }
   const Usage usage = UsageOf(editor.Process());
   std::printf("%.1f %.1f %.1f %.1f\n", wall, cpu, usage.residentMegabytes, usage.privateMegabytes);
@@ -245,15 +277,12 @@ int Start(const std::string& program, const std::vector<std::string>& arguments)
 int Key(const std::string& program, const std::string& file, int count) {
   Display display;
   Editor editor(program, {file});
-  if (!display.NextPainting(20000)) return 1;
-  display.Settle(300);
-  AnswerQuestion(display, file);
-  display.Settle(1500);
+  if (!Opened(display, file)) return 1;
   for (int i = 0; i < 40; ++i) display.Press(kNext);
-  display.Settle(600);
+  display.Drain(600);
   std::vector<double> times;
   for (int i = 0; i < count; ++i) {
-    display.Settle(30);
+    display.Drain(30);
     const auto pressed = Clock::now();
     display.Press(static_cast<xcb_keysym_t>('a' + i % 26));
     if (display.NextPainting(2000)) times.push_back(MillisecondsSince(pressed));
@@ -265,10 +294,7 @@ int Key(const std::string& program, const std::string& file, int count) {
 int Popup(const std::string& program, const std::string& file, int count) {
   Display display;
   Editor editor(program, {file});
-  if (!display.NextPainting(20000)) return 1;
-  display.Settle(300);
-  AnswerQuestion(display, file);
-  display.Settle(1500);
+  if (!Opened(display, file)) return 1;
   std::vector<double> times;
   for (int i = 0; i < count; ++i) {
     const auto pressed = Clock::now();
@@ -282,7 +308,7 @@ int Popup(const std::string& program, const std::string& file, int count) {
     }
     display.Press(kEscape);
     display.Press(kBackSpace);
-    display.Settle(300);
+    display.Drain(300);
   }
   if (times.empty()) return 1;
   std::printf("%.1f %.1f\n", times.front(), Median({times.begin() + 1, times.end()}));
@@ -292,12 +318,9 @@ int Popup(const std::string& program, const std::string& file, int count) {
 int Save(const std::string& program, const std::string& file) {
   Display display;
   Editor editor(program, {file});
-  if (!display.NextPainting(20000)) return 1;
-  display.Settle(300);
-  AnswerQuestion(display, file);
-  display.Settle(1500);
+  if (!Opened(display, file)) return 1;
   display.Press('a');
-  display.Settle(300);
+  display.Drain(300);
   struct stat before {};
   stat(file.c_str(), &before);
   const auto pressed = Clock::now();

@@ -4,18 +4,28 @@
 
 #include "shell/common/class_common.hpp"
 #include "shell/common/code_page.hpp"
+#include "shell/common/text_compare.hpp"
+#include "shell/common/unit_search.hpp"
 
 namespace kestri {
 namespace {
 
-// Replaces the first hit until there is none. A hit that a replacement makes can begin at most one character
-// less than the word's length in front of it, so the search goes on from there.
+text_compare::Hit FindHit(std::u16string_view text, std::u16string_view find, std::size_t from,
+                          Compare compare) {
+  if (compare == Compare::Text) return text_compare::Find(text, find, from);
+  return {unit_search::Find(text, find, from), find.size()};
+}
+
+// Replaces the first hit until there is none. A hit that a replacement makes begins less than a hit's length
+// in front of it, so the search goes on from there. A hit is at most twice as long as the word: voiced
+// half-width kana.
 std::u16string ReplaceUntilGone(std::u16string text, std::u16string_view find,
                                 std::u16string_view replacement, Compare compare) {
-  const int reach = Len(find) - 1;
-  for (int at = InStr(text, find, compare); at > 0;) {
-    text.replace(static_cast<std::size_t>(at - 1), find.size(), replacement);
-    at = InStr(std::max(1, at - reach), text, find, compare);
+  const std::size_t reach = 2 * find.size();
+  auto hit = FindHit(text, find, 0, compare);
+  while (hit.position != text_compare::npos) {
+    text.replace(hit.position, hit.length, replacement);
+    hit = FindHit(text, find, hit.position - std::min(hit.position, reach), compare);
   }
   return text;
 }

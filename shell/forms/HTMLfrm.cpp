@@ -92,7 +92,8 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
   timeP_.start(settings_.timerPeriod);
 }
 
-HTMLfrm::~HTMLfrm() = default;
+// The view goes before the control that it listens to.
+HTMLfrm::~HTMLfrm() { delete view_; }
 
 void HTMLfrm::BuildBars() {
   panes_ = new StatusPanes(this);

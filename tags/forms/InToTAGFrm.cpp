@@ -49,6 +49,7 @@ void InToTAGFrm::Build() {
   setFont(uiFont);
   body_ = new QFrame(this);
   body_->setFrameStyle(QFrame::Box | QFrame::Plain);
+  body_->setForegroundRole(QPalette::Dark);
   body_->setAutoFillBackground(true);
   BuildList();
   tipLine_ = new TipLine(body_);
@@ -78,9 +79,10 @@ void InToTAGFrm::BuildList() {
   model_ = new CandidateModel(list_);
   list_->setModel(model_);
   list_->setItemDelegate(new CandidateDelegate(*model_, list_));
-  connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& current) {
-    if (logic_ != nullptr && !selecting_ && current.isValid()) logic_->ItemClick(current.row());
-  });
+  connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& current) {
+            if (logic_ != nullptr && !selecting_ && current.isValid()) logic_->ItemClick(current.row());
+          });
   connect(list_, &QListView::doubleClicked, this, [this](const QModelIndex& index) {
     if (logic_ != nullptr) logic_->DoubleClick(index.row());
   });
@@ -117,7 +119,6 @@ void InToTAGFrm::ShowAt(const PopupPlacement& placement, Animation animation) {
     setGeometry(ToRect(placement.window));
   }
   show();
-  raise();
 }
 
 void InToTAGFrm::Hide(Animation animation, Opens opened) {

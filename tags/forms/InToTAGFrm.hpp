@@ -1,5 +1,5 @@
-// The candidate popup's window. It never takes the keyboard focus: the text keeps it and hands its keys on, so no key
-// is lost while the window comes or goes.
+// The candidate popup's window. It never takes the keyboard focus: the text keeps it and hands its keys on,
+// so no key is lost while the window comes or goes.
 #pragma once
 
 #include <QVariantAnimation>
@@ -27,8 +27,8 @@ class InToTAGFrm : public QWidget, public CandidateView {
   void Attach(InToTAG* logic) { logic_ = logic; }
   // From now on the widget's keys and input method come here first while the popup is visible.
   void TakeKeysOf(QWidget* textView);
-  // Key press, release or shortcut override of the text. True: consumed. Commands with Ctrl, Alt or a function key
-  // close the popup and stay with the text.
+  // Key press, release or shortcut override of the text. True: consumed. Commands with Ctrl, Alt or a
+  // function key close the popup and stay with the text.
   bool HandleKey(QKeyEvent* event);
   // Committed text counts as typed; a composition closes the popup and stays with the text.
   bool HandleInputMethod(QInputMethodEvent* event);

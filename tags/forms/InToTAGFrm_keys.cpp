@@ -23,34 +23,50 @@ bool IsModifierKey(int key) {
     case Qt::Key_Meta:
     case Qt::Key_CapsLock:
     case Qt::Key_NumLock:
-    case Qt::Key_ScrollLock: return true;
-    default: return false;
+    case Qt::Key_ScrollLock:
+      return true;
+    default:
+      return false;
   }
 }
 
 std::optional<ListKey> ListKeyOf(int key) {
   switch (key) {
-    case Qt::Key_Up: return ListKey::Up;
-    case Qt::Key_Down: return ListKey::Down;
-    case Qt::Key_PageUp: return ListKey::PageUp;
-    case Qt::Key_PageDown: return ListKey::PageDown;
-    case Qt::Key_Home: return ListKey::Home;
-    case Qt::Key_End: return ListKey::End;
-    case Qt::Key_Left: return ListKey::Left;
-    case Qt::Key_Right: return ListKey::Right;
-    default: return std::nullopt;
+    case Qt::Key_Up:
+      return ListKey::Up;
+    case Qt::Key_Down:
+      return ListKey::Down;
+    case Qt::Key_PageUp:
+      return ListKey::PageUp;
+    case Qt::Key_PageDown:
+      return ListKey::PageDown;
+    case Qt::Key_Home:
+      return ListKey::Home;
+    case Qt::Key_End:
+      return ListKey::End;
+    case Qt::Key_Left:
+      return ListKey::Left;
+    case Qt::Key_Right:
+      return ListKey::Right;
+    default:
+      return std::nullopt;
   }
 }
 
 std::optional<char16_t> EditingKeyOf(int key) {
   switch (key) {
-    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Backspace:
+      return 8;
     case Qt::Key_Tab:
-    case Qt::Key_Backtab: return 9;
+    case Qt::Key_Backtab:
+      return 9;
     case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
-    case Qt::Key_Escape: return 27;
-    default: return std::nullopt;
+    case Qt::Key_Enter:
+      return 13;
+    case Qt::Key_Escape:
+      return 27;
+    default:
+      return std::nullopt;
   }
 }
 
@@ -104,9 +120,12 @@ bool InToTAGFrm::FilterTextView(QEvent* event) {
   switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-    case QEvent::KeyRelease: return HandleKey(static_cast<QKeyEvent*>(event));
-    case QEvent::InputMethod: return HandleInputMethod(static_cast<QInputMethodEvent*>(event));
-    default: return false;
+    case QEvent::KeyRelease:
+      return HandleKey(static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod:
+      return HandleInputMethod(static_cast<QInputMethodEvent*>(event));
+    default:
+      return false;
   }
 }
 
@@ -117,18 +136,22 @@ bool InToTAGFrm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool InToTAGFrm::ClosesPopup(QObject* watched, const QEvent& event) const {
-  if (event.type() == QEvent::ApplicationStateChange) return QApplication::applicationState() != Qt::ApplicationActive;
+  if (event.type() == QEvent::ApplicationStateChange)
+    return QApplication::applicationState() != Qt::ApplicationActive;
   const auto* widget = qobject_cast<QWidget*>(watched);
   if (widget == nullptr || widget->window() == this) return false;
   const bool mainWindow = parentWidget() != nullptr && widget == parentWidget()->window();
   switch (event.type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::Wheel: return true;
+    case QEvent::Wheel:
+      return true;
     case QEvent::WindowDeactivate:
     case QEvent::Move:
     case QEvent::Resize:
-    case QEvent::Hide: return mainWindow;
-    default: return false;
+    case QEvent::Hide:
+      return mainWindow;
+    default:
+      return false;
   }
 }
 

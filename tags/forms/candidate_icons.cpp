@@ -46,25 +46,47 @@ QPainterPath QuotationMark(double left) {
 }
 
 QPainterPath Star() {
-  return Lines({{{12, 4.6}, {14.3, 9.4}, {19.5, 10.1}, {15.7, 13.7}, {16.6, 18.9}, {12, 16.4}, {7.4, 18.9},
-                 {8.3, 13.7}, {4.5, 10.1}, {9.7, 9.4}, {12, 4.6}}});
+  return Lines({{{12, 4.6},
+                 {14.3, 9.4},
+                 {19.5, 10.1},
+                 {15.7, 13.7},
+                 {16.6, 18.9},
+                 {12, 16.4},
+                 {7.4, 18.9},
+                 {8.3, 13.7},
+                 {4.5, 10.1},
+                 {9.7, 9.4},
+                 {12, 4.6}}});
 }
 
 Sign SignOf(CandidateIcon icon) {
   switch (icon) {
-    case CandidateIcon::Attribute: return {0xFF66727F, 2.8, Lines({{{6.5, 9.3}, {17.5, 9.3}}, {{6.5, 14.7}, {17.5, 14.7}}})};
-    case CandidateIcon::Keyword: return {0xFF2E9150, 3.0, Lines({{{6.3, 12.6}, {10.2, 16.8}, {17.7, 7.5}}})};
+    case CandidateIcon::Attribute:
+      return {0xFF66727F, 2.8, Lines({{{6.5, 9.3}, {17.5, 9.3}}, {{6.5, 14.7}, {17.5, 14.7}}})};
+    case CandidateIcon::Keyword:
+      return {0xFF2E9150, 3.0, Lines({{{6.3, 12.6}, {10.2, 16.8}, {17.7, 7.5}}})};
     case CandidateIcon::EventHandler:
       return {0xFFC23B3B, 0,
-              Lines({{{13.6, 4.2}, {6.8, 13.3}, {11.2, 13.3}, {10.3, 19.8}, {17.3, 10.4}, {12.8, 10.4}, {13.6, 4.2}}})};
-    case CandidateIcon::Value: return {0xFF8A8F96, 0, QuotationMark(5.2).united(QuotationMark(13.1))};
+              Lines({{{13.6, 4.2},
+                      {6.8, 13.3},
+                      {11.2, 13.3},
+                      {10.3, 19.8},
+                      {17.3, 10.4},
+                      {12.8, 10.4},
+                      {13.6, 4.2}}})};
+    case CandidateIcon::Value:
+      return {0xFF8A8F96, 0, QuotationMark(5.2).united(QuotationMark(13.1))};
     case CandidateIcon::Font:
       return {0xFF1F8A94, 2.5, Lines({{{6.3, 18}, {12, 5.6}, {17.7, 18}}, {{8.4, 14}, {15.6, 14}}})};
-    case CandidateIcon::Favourite: return {0xFFD9901A, 0, Star()};
-    case CandidateIcon::UserWord: return {0xFF8458B3, 0, Person()};
-    case CandidateIcon::Tag: break;
+    case CandidateIcon::Favourite:
+      return {0xFFD9901A, 0, Star()};
+    case CandidateIcon::UserWord:
+      return {0xFF8458B3, 0, Person()};
+    case CandidateIcon::Tag:
+      break;
   }
-  return {0xFF2F6FDE, 2.6, Lines({{{9.5, 6.5}, {4.8, 12}, {9.5, 17.5}}, {{14.5, 6.5}, {19.2, 12}, {14.5, 17.5}}})};
+  return {0xFF2F6FDE, 2.6,
+          Lines({{{9.5, 6.5}, {4.8, 12}, {9.5, 17.5}}, {{14.5, 6.5}, {19.2, 12}, {14.5, 17.5}}})};
 }
 
 }  // namespace

@@ -35,10 +35,13 @@ QVariant CandidateModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::AccessibleTextRole: return ToQt(Row(index.row()).text);
+    case Qt::AccessibleTextRole:
+      return ToQt(Row(index.row()).text);
     case Qt::ToolTipRole:
-    case Qt::AccessibleDescriptionRole: return ToQt(Row(index.row()).toolTipText);
-    default: return {};
+    case Qt::AccessibleDescriptionRole:
+      return ToQt(Row(index.row()).toolTipText);
+    default:
+      return {};
   }
 }
 

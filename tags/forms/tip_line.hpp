@@ -18,7 +18,7 @@ class TipLine : public QWidget {
   const QString& Text() const { return text_; }
   std::optional<CandidateIcon> Icon() const { return icon_; }
 
-  std::function<void()> gripped;               // a drag of the grip begins
+  std::function<void()> gripped;                // a drag of the grip begins
   std::function<void(QPoint moved)> gripMoved;  // since it began, logical pixels
 
   QSize sizeHint() const override;

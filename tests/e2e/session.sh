@@ -35,9 +35,10 @@ start_display() {
   unset WAYLAND_DISPLAY
   openbox --sm-disable >"$work/openbox.log" 2>&1 &
   processes+=($!)
-  await xprop -root _NET_SUPPORTING_WM_CHECK
-  sleep 0.3
+  await window_manager_answers
 }
+
+window_manager_answers() { xprop -root _NET_SUPPORTED | grep -q _NET_ACTIVE_WINDOW; }
 
 # A home of its own, and a copy of the staged folder: nothing of the user's is touched.
 private_home() {

@@ -1,5 +1,5 @@
-// The whole road of a tag without a display: edit control, key rules, popup logic, dictionaries in memory, and a view
-// that records what it is told.
+// The whole road of a tag without a display: edit control, key rules, popup logic, dictionaries in memory,
+// and a view that records what it is told.
 #pragma once
 
 #include <optional>
@@ -51,7 +51,6 @@ class RecordingView : public CandidateView {
   }
   void SetRows(const std::vector<CandidateRow>& newRows) override {
     rows = newRows;
-    ++rowLoads;
   }
   void SetListVisible(bool on) override { listSwitches.push_back(on); }
   void MarkMode(std::int32_t mode) override { marks.push_back(mode); }
@@ -80,7 +79,7 @@ class RecordingView : public CandidateView {
   std::optional<Opens> foldedBack;
   std::optional<CandidateIcon> icon;
   std::u16string tip;
-  int selected = -1, topRow = -1, rowLoads = 0, shows = 0;
+  int selected = -1, topRow = -1, shows = 0;
   bool visible = false;
 };
 
@@ -135,8 +134,10 @@ class CompletionWorld {
     tags.AttachHints(&hints);
     text.InstallSubclass(1);
     // A small table for every test; a test replaces what it needs before the popup is loaded.
-    SetTags(u"[NAME]\n001=A\n002=ABBR\n003=P\n004=!-- --\n"
-            u"[EXPLAIN]\n001=ｱﾝｶｰ\n002=略語\n003=段落\n004=\n[DEFTAG]\n001=<A href=\"\">\n003=P align=\"left\"\n");
+    SetTags(
+        u"[NAME]\n001=A\n002=ABBR\n003=P\n004=!-- --\n"
+        u"[EXPLAIN]\n001=ｱﾝｶｰ\n002=略語\n003=段落\n004=\n[DEFTAG]\n001=<A href=\"\">\n003=P "
+        u"align=\"left\"\n");
     SetOptions(u"[PRO]\n001=href\n002=align\n003=onclick\n004=!!nowrap\n[EXPLAIN]\n001=ﾘﾝｸ先\n003=ｸﾘｯｸ時\n");
     SetParams(u"[PARAM]\n001=left\n002=center\n");
   }
@@ -153,8 +154,8 @@ class CompletionWorld {
   void SetText(std::u16string_view marked) { SetMarked(control, marked); }
   std::u16string Shown() const { return Marked(control); }
 
-  // Keys as the window routes them: to the popup while it is visible, else to the text. "\b" "\t" "\r" "\x1B" are
-  // the editing keys.
+  // Keys as the window routes them: to the popup while it is visible, else to the text. "\b" "\t" "\r" "\x1B"
+  // are the editing keys.
   void Type(std::u16string_view keys) {
     for (const char16_t key : keys) Press(key);
   }
@@ -193,7 +194,8 @@ class CompletionWorld {
   int analyses = 0;
   TagServices tags{control};
   MainText text{control, state, common, host, tags, clipboard, boxes};
-  InToTAG popup{{text, state, common, host, view, place, hints, [this] { ++analyses; }, [this] { return fonts; }}};
+  InToTAG popup{
+      {text, state, common, host, view, place, hints, [this] { ++analyses; }, [this] { return fonts; }}};
   HtmlEditCommands commands{{text, state, common, host, popup, place, hints, [this] { ++analyses; }}};
 };
 
@@ -232,14 +234,15 @@ class CompletionKeys : public KeyTarget {
     return true;
   }
   void PressInPopup(const Key& key) {
-    constexpr std::array<std::pair<std::u16string_view, ListKey>, 8> moves = {{{u"Left", ListKey::Left},
-                                                                              {u"Right", ListKey::Right},
-                                                                              {u"Up", ListKey::Up},
-                                                                              {u"Down", ListKey::Down},
-                                                                              {u"Home", ListKey::Home},
-                                                                              {u"End", ListKey::End},
-                                                                              {u"PageUp", ListKey::PageUp},
-                                                                              {u"PageDown", ListKey::PageDown}}};
+    constexpr std::array<std::pair<std::u16string_view, ListKey>, 8> moves = {
+        {{u"Left", ListKey::Left},
+         {u"Right", ListKey::Right},
+         {u"Up", ListKey::Up},
+         {u"Down", ListKey::Down},
+         {u"Home", ListKey::Home},
+         {u"End", ListKey::End},
+         {u"PageUp", ListKey::PageUp},
+         {u"PageDown", ListKey::PageDown}}};
     for (const auto& [name, move] : moves) {
       if (key.name == name) return world_.popup.KeyDown(move);
     }

@@ -43,11 +43,12 @@ TEST_F(CandidateListTest, OrderIsTagsAttributesValuesFontsNumbersFavouritesUserW
   world.SetFavourites(u"[FabStr]\nFabStr000=お気に入り\n");
   world.Put(u"words.def", u"[KEY]\n001=署名\n[HINTS]\n001=名前\n");
   world.SetSettings(u"[Setting]\nValFont=1\nValFabStr=1\n[USERINTO]\nFILE=/opt/Kestrile/words.def\n");
-  EXPECT_THAT(Texts(), ElementsAre(u"A", u"ABBR", u"P", u"!-- --", u"href", u"align", u"onclick", u"nowrap", u"left",
-                                   u"center", u"ＭＳ ゴシック", u"Arial", u"-1", u"0", u"1", u"2", u"3", u"4", u"5",
-                                   u"6", u"7", u"お気に入り", u"署名"));
+  EXPECT_THAT(Texts(), ElementsAre(u"A", u"ABBR", u"P", u"!-- --", u"href", u"align", u"onclick", u"nowrap",
+                                   u"left", u"center", u"ＭＳ ゴシック", u"Arial", u"-1", u"0", u"1", u"2",
+                                   u"3", u"4", u"5", u"6", u"7", u"お気に入り", u"署名"));
   const auto rows = Build();
-  EXPECT_EQ(rows[10], (CandidateRow{u"ＭＳ ゴシック", u"(ﾌｫﾝﾄ)", 3, CandidateIcon::Font, RGB(100, 100, 100)}));
+  EXPECT_EQ(rows[10],
+            (CandidateRow{u"ＭＳ ゴシック", u"(ﾌｫﾝﾄ)", 3, CandidateIcon::Font, RGB(100, 100, 100)}));
   EXPECT_EQ(rows[21],
             (CandidateRow{u"お気に入り", u"(お気に入り)", 3, CandidateIcon::Favourite, RGB(100, 100, 100)}));
   EXPECT_EQ(rows[22], (CandidateRow{u"署名", u"名前", 5, CandidateIcon::UserWord, RGB(100, 100, 100)}));

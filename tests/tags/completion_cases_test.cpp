@@ -1,4 +1,5 @@
-// Plays every folder of tests/cases/completion: keys on the edit control with its rules, popup and dictionaries.
+// Plays every folder of tests/cases/completion: keys on the edit control with its rules, popup and
+// dictionaries.
 #include <gtest/gtest.h>
 
 #include "tests/fakes/case_runner.hpp"
@@ -15,7 +16,8 @@ void PutDictionaries(CompletionWorld& world, std::u16string_view text) {
   constexpr std::u16string_view kHead = u"== ";
   std::size_t begin = 0;
   while (begin < text.size()) {
-    if (text.substr(begin, kHead.size()) != kHead) throw std::runtime_error("dictionaries without a file name");
+    if (text.substr(begin, kHead.size()) != kHead)
+      throw std::runtime_error("dictionaries without a file name");
     const std::size_t nameEnd = std::min(text.find(u'\n', begin), text.size());
     const std::u16string_view name = text.substr(begin + kHead.size(), nameEnd - begin - kHead.size());
     const std::size_t next = std::min(text.find(u"\n== ", nameEnd), text.size());

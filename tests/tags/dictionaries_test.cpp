@@ -16,7 +16,9 @@ class DictionariesTest : public testing::Test {
  protected:
   DictionariesTest() { files.contents[u"/opt/Kestrile/Kestri"] = "the program"; }
 
-  void Put(std::u16string_view file, std::u16string_view profile) { Bytes(file) = fakes::ProfileBytes(profile); }
+  void Put(std::u16string_view file, std::u16string_view profile) {
+    Bytes(file) = fakes::ProfileBytes(profile);
+  }
   std::string& Bytes(std::u16string_view file) {
     return files.contents[u"/opt/Kestrile/DataFiles/" + std::u16string(file)];
   }
@@ -41,7 +43,8 @@ TEST_F(DictionariesTest, MissingFilesAreEmptyTables) {
 }
 
 TEST_F(DictionariesTest, ARowIsTheSetOfEqualKeysAcrossTheSections) {
-  Put(u"SelectTAG.lib", u"[EXPLAIN]\n002=略語\n001=ｱﾝｶｰ\n[NAME]\n001=A\n002=ABBR\n[DEFTAG]\n001=<A href=\"\">\n");
+  Put(u"SelectTAG.lib",
+      u"[EXPLAIN]\n002=略語\n001=ｱﾝｶｰ\n[NAME]\n001=A\n002=ABBR\n[DEFTAG]\n001=<A href=\"\">\n");
   EXPECT_TRUE(dictionaries.HasTags());
   EXPECT_THAT(dictionaries.Tags(),
               ElementsAre(TagRow{u"A", u"ｱﾝｶｰ", u"<A href=\"\">"}, TagRow{u"ABBR", u"略語", u""}));
@@ -80,7 +83,8 @@ TEST_F(DictionariesTest, OnlyTheFirstEmptyRowBoundsTheLoop) {
 }
 
 TEST_F(DictionariesTest, KindFollowsFromTheNameOrItsMark) {
-  Put(u"Option.lib", u"[PRO]\n001=href\n002=onclick\n003=!!nowrap\n004=ONCLICK\n005=!!\n006=once\n007=o\n008=!\n");
+  Put(u"Option.lib",
+      u"[PRO]\n001=href\n002=onclick\n003=!!nowrap\n004=ONCLICK\n005=!!\n006=once\n007=o\n008=!\n");
   const auto rows = dictionaries.Options();
   ASSERT_THAT(rows, SizeIs(8));
   EXPECT_EQ(rows[0], (OptionRow{u"href", u"", AttributeKind::Attribute}));
@@ -100,7 +104,8 @@ TEST_F(DictionariesTest, KindsInTheWordsOfTheSettings) {
 }
 
 TEST_F(DictionariesTest, ALongValueReadsAsItsFirst1023Bytes) {
-  Put(u"Param.lib", u"[PARAM]\n001=" + std::u16string(1500, u'x') + u"\n002=" + std::u16string(600, u'あ') + u"\n");
+  Put(u"Param.lib",
+      u"[PARAM]\n001=" + std::u16string(1500, u'x') + u"\n002=" + std::u16string(600, u'あ') + u"\n");
   const auto rows = dictionaries.Params();
   ASSERT_THAT(rows, SizeIs(2));
   EXPECT_EQ(rows[0], std::u16string(1023, u'x'));
@@ -108,7 +113,8 @@ TEST_F(DictionariesTest, ALongValueReadsAsItsFirst1023Bytes) {
 }
 
 TEST_F(DictionariesTest, AValueEndsAtItsFirstNul) {
-  Bytes(u"Param.lib") = std::string("[PARAM]\r\n001=left\0right\r\n002=", 28) + '\0' + std::string("x\r\n003=c\r\n");
+  Bytes(u"Param.lib") =
+      std::string("[PARAM]\r\n001=left\0right\r\n002=", 28) + '\0' + std::string("x\r\n003=c\r\n");
   EXPECT_THAT(dictionaries.Params(), ElementsAre(u"left"));
 }
 
@@ -123,7 +129,8 @@ TEST_F(DictionariesTest, AnEmptyFirstFavouriteHidesAllOthers) {
 }
 
 TEST_F(DictionariesTest, UserWordsComeFromAnyPath) {
-  files.contents[u"/home/author/words.def"] = fakes::ProfileBytes(u"[KEY]\n001=署名\n002=date\n[HINTS]\n001=名前と日付\n");
+  files.contents[u"/home/author/words.def"] =
+      fakes::ProfileBytes(u"[KEY]\n001=署名\n002=date\n[HINTS]\n001=名前と日付\n");
   EXPECT_THAT(dictionaries.UserWords(u"/home/author/words.def"),
               ElementsAre(UserWordRow{u"署名", u"名前と日付"}, UserWordRow{u"date", u""}));
 }
@@ -156,9 +163,9 @@ TEST_F(DictionariesTest, WrittenTagsAreNumberedAnewAndReadBack) {
   EXPECT_TRUE(dictionaries.WriteTags(rows));
   EXPECT_EQ(dictionaries.Tags(), rows);
   EXPECT_EQ(files.writes, 1);
-  EXPECT_EQ(Bytes(u"SelectTAG.lib"),
-            fakes::ProfileBytes(
-                u"[NAME]\n001=B\n002=A\n[EXPLAIN]\n001=太字\n002=\n[DEFTAG]\n001=<B>\n002=\n"));
+  EXPECT_EQ(
+      Bytes(u"SelectTAG.lib"),
+      fakes::ProfileBytes(u"[NAME]\n001=B\n002=A\n[EXPLAIN]\n001=太字\n002=\n[DEFTAG]\n001=<B>\n002=\n"));
 }
 
 TEST_F(DictionariesTest, WritingKeepsWhatIsNotOfTheTable) {

@@ -33,7 +33,8 @@ TEST_P(CaretSpanTest, InsideIsWhatStandsBetweenTheNearestDelimiters) {
 
 TEST_P(CaretSpanTest, TextCompareSeesTheSameAsciiDelimiters) {
   std::u16string inside;
-  EXPECT_EQ(FindCaretSpan(control, kLookOnly, inside, u"<", u">", Compare::Text), GetParam().inside.has_value());
+  EXPECT_EQ(FindCaretSpan(control, kLookOnly, inside, u"<", u">", Compare::Text),
+            GetParam().inside.has_value());
   EXPECT_EQ(inside, GetParam().inside.value_or(u""));
 }
 
@@ -144,20 +145,18 @@ TEST_P(TagNameTest, NameEndsAtTheFirstBlank) {
   EXPECT_EQ(TagNameOf(GetParam().text, Compare::Binary), GetParam().name);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, TagNameTest,
-                         testing::Values(NameRow{"Attributes", u"a href=\"b\"", u"a"},
-                                         NameRow{"NameAlone", u"br", u"br"}, NameRow{"Empty", u"", u""},
-                                         NameRow{"BlanksAround", u"  a b ", u"a"},
-                                         NameRow{"WithItsDelimiters", u"<a href>", u"a"},
-                                         NameRow{"BlanksInsideDelimiters", u" < a href > ", u"a"},
-                                         NameRow{"OnlyOneDelimiterGoes", u"<<a>>", u"<a>"},
-                                         NameRow{"DelimitersAlone", u"<>", u""},
-                                         NameRow{"OneSignIsBoth", u"<", u""},
-                                         NameRow{"TabDoesNotSeparate", u"a\thref=b c", u"a\thref=b"},
-                                         NameRow{"LineBreakSeparates", u"a\r\nhref", u"a"},
-                                         NameRow{"ClosingTag", u"/a", u"/a"},
-                                         NameRow{"Comment", u"!-- x --", u"!--"}),
-                         [](const auto& row) { return row.param.what; });
+INSTANTIATE_TEST_SUITE_P(
+    Cases, TagNameTest,
+    testing::Values(NameRow{"Attributes", u"a href=\"b\"", u"a"}, NameRow{"NameAlone", u"br", u"br"},
+                    NameRow{"Empty", u"", u""}, NameRow{"BlanksAround", u"  a b ", u"a"},
+                    NameRow{"WithItsDelimiters", u"<a href>", u"a"},
+                    NameRow{"BlanksInsideDelimiters", u" < a href > ", u"a"},
+                    NameRow{"OnlyOneDelimiterGoes", u"<<a>>", u"<a>"}, NameRow{"DelimitersAlone", u"<>", u""},
+                    NameRow{"OneSignIsBoth", u"<", u""},
+                    NameRow{"TabDoesNotSeparate", u"a\thref=b c", u"a\thref=b"},
+                    NameRow{"LineBreakSeparates", u"a\r\nhref", u"a"}, NameRow{"ClosingTag", u"/a", u"/a"},
+                    NameRow{"Comment", u"!-- x --", u"!--"}),
+    [](const auto& row) { return row.param.what; });
 
 }  // namespace
 }  // namespace kestri

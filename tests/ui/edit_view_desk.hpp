@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QTextCharFormat>
 
 #include "tests/fakes/main_text_desk.hpp"
 #include "ui/edit_view.hpp"

@@ -31,8 +31,8 @@ void DoubleClick(EditViewDesk& desk, Position at) {
 }
 
 void Move(EditViewDesk& desk, QPoint point) {
-  QMouseEvent event(QEvent::MouseMove, point, desk.view.viewport()->mapToGlobal(point), Qt::NoButton, Qt::LeftButton,
-                    Qt::NoModifier);
+  QMouseEvent event(QEvent::MouseMove, point, desk.view.viewport()->mapToGlobal(point), Qt::NoButton,
+                    Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(desk.view.viewport(), &event);
 }
 
@@ -171,8 +171,8 @@ TEST(EditViewMouse, TheWheelScrollsAndControlLeavesItToTheWindow) {
   for (int i = 0; i < 200; ++i) text += u"line\r\n";
   desk.PutText(text);
   const auto turn = [&](Qt::KeyboardModifiers modifiers) {
-    QWheelEvent event(QPointF(10, 10), desk.view.viewport()->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, -120),
-                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QWheelEvent event(QPointF(10, 10), desk.view.viewport()->mapToGlobal(QPointF(10, 10)), QPoint(),
+                      QPoint(0, -120), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QApplication::sendEvent(desk.view.viewport(), &event);
     return event.isAccepted();
   };
@@ -218,7 +218,7 @@ TEST(EditViewDrop, ALockedTextTakesNoText) {
 TEST(EditViewDrop, FilesAreOpenedEvenWhenTheirPathsAreOfferedAsText) {
   EditViewDesk desk;
   desk.Put(u"abc‸");
-  desk.desk.files.Write(u"/home/author/頁.htm", "x");
+  desk.desk.files.contents[u"/home/author/頁.htm"] = "x";
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(QStringLiteral("/home/author/頁.htm"))});
   data.setText(QStringLiteral("/home/author/頁.htm"));
@@ -253,8 +253,10 @@ TEST(EditViewDrop, TheSelectionIsMovedAsOneStep) {
     Qt::DropAction action;
     const char* after;
   };
-  const Case rows[] = {{5, Qt::MoveAction, "ade⟦bc⟧f"}, {0, Qt::MoveAction, "⟦bc⟧adef"},
-                       {5, Qt::CopyAction, "abcde⟦bc⟧f"}, {2, Qt::MoveAction, "a⟦bc⟧def"},
+  const Case rows[] = {{5, Qt::MoveAction, "ade⟦bc⟧f"},
+                       {0, Qt::MoveAction, "⟦bc⟧adef"},
+                       {5, Qt::CopyAction, "abcde⟦bc⟧f"},
+                       {2, Qt::MoveAction, "a⟦bc⟧def"},
                        {2, Qt::CopyAction, "ab⟦bc⟧cdef"}};
   for (const Case& row : rows) {
     EditViewDesk desk;
@@ -292,8 +294,8 @@ TEST(EditViewMenu, WithoutItTheStandardMenuActsOnTheText) {
     captions << action->text();
     if (action->text().startsWith(QStringLiteral("切り取り"))) cut = action;
   }
-  EXPECT_EQ(captions, (QStringList{"元に戻す(&U)", "やり直し(&R)", "切り取り(&T)", "ｺﾋﾟｰ(&C)", "貼り付け(&P)", "削除",
-                                   "すべて選択(&A)"}));
+  EXPECT_EQ(captions, (QStringList{"元に戻す(&U)", "やり直し(&R)", "切り取り(&T)", "ｺﾋﾟｰ(&C)", "貼り付け(&P)",
+                                   "削除", "すべて選択(&A)"}));
   ASSERT_NE(cut, nullptr);
   cut->trigger();
   EXPECT_EQ(desk.Row(), "a‸");

@@ -47,6 +47,11 @@ TEST(Rermutation, TheFirstKindFindsHitsThatReachBackIntoTheTextBefore) {
   EXPECT_EQ(ClassCommon::Rermutation1(u"aaabbb", u"ab", u"", Compare::Text), u"");
 }
 
+TEST(Rermutation, AFoldedHitIsReplacedInTheLengthItHasInTheText) {
+  EXPECT_EQ(ClassCommon::Rermutation1(u"xｶﾞy", u"ガ", u"g", Compare::Text), u"xgy");
+  EXPECT_EQ(ClassCommon::Rermutation1(u"xガy", u"ｶﾞ", u"g", Compare::Text), u"xgy");
+}
+
 TEST(Rermutation, AReplacementThatHoldsTheFindTextIsMadeOnce) {
   EXPECT_EQ(ClassCommon::Rermutation1(u"a.b.c", u".", u"..", Compare::Binary), u"a..b..c");
   EXPECT_EQ(ClassCommon::Rermutation1(u"abc", u"", u"x", Compare::Binary), u"abc");
