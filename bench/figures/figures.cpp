@@ -1,11 +1,11 @@
-// Whole-process figures of an editor, taken from outside: it is started on a display, real key events are sent, and
-// its window's damage tells when something was painted. Nothing in the measured program knows of the measurement.
-// Run it on a display without a window manager: a frame's own painting would count.
+// Whole-process figures of an editor, taken from outside: it is started on a display, real key events are
+// sent, and its window's damage tells when something was painted. Nothing in the measured program knows of
+// the measurement. Run it on a display without a window manager: a frame's own painting would count.
 //
 //   figures PROGRAM start [FILE]        wall ms to the first painted window, CPU ms, resident MB
-//   figures PROGRAM key FILE KEYS       median and worst ms from a key press in the middle of FILE to its painting
-//   figures PROGRAM popup FILE          ms from "<" to the popup painted, first and median of the later ones
-//   figures PROGRAM save FILE           ms from Ctrl+S to the file's new time stamp
+//   figures PROGRAM key FILE KEYS       median and worst ms from a key press in the middle of FILE to its
+//   painting figures PROGRAM popup FILE          ms from "<" to the popup painted, first and median of the
+//   later ones figures PROGRAM save FILE           ms from Ctrl+S to the file's new time stamp
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -15,6 +15,7 @@
 #include <xcb/xcb_keysyms.h>
 #include <xcb/xtest.h>
 
+#include <poll.h>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -23,7 +24,6 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <poll.h>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -51,7 +51,8 @@ class Display {
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &mask);
     damage_ = xcb_get_extension_data(connection_, &xcb_damage_id)->first_event;
-    std::free(xcb_damage_query_version_reply(connection_, xcb_damage_query_version(connection_, 1, 1), nullptr));
+    std::free(
+        xcb_damage_query_version_reply(connection_, xcb_damage_query_version(connection_, 1, 1), nullptr));
     symbols_ = xcb_key_symbols_alloc(connection_);
     xcb_flush(connection_);
   }
@@ -140,7 +141,8 @@ class Display {
 
   void Fake(int type, xcb_keysym_t key) {
     xcb_keycode_t* codes = xcb_key_symbols_get_keycode(symbols_, key);
-    if (codes != nullptr) xcb_test_fake_input(connection_, static_cast<std::uint8_t>(type), codes[0], 0, root_, 0, 0, 0);
+    if (codes != nullptr)
+      xcb_test_fake_input(connection_, static_cast<std::uint8_t>(type), codes[0], 0, root_, 0, 0, 0);
     std::free(codes);
   }
 
@@ -300,7 +302,8 @@ int Popup(const std::string& program, const std::string& file, int count) {
     const auto pressed = Clock::now();
     display.PressShifted(',');
     std::map<xcb_window_t, double> first;
-    while (const auto painted = display.NextPainting(400)) first.try_emplace(painted->window, MillisecondsSince(pressed));
+    while (const auto painted = display.NextPainting(400))
+      first.try_emplace(painted->window, MillisecondsSince(pressed));
     if (!first.empty()) {
       times.push_back(std::max_element(first.begin(), first.end(), [](const auto& a, const auto& b) {
                         return a.second < b.second;
@@ -325,7 +328,7 @@ int Save(const std::string& program, const std::string& file) {
   stat(file.c_str(), &before);
   const auto pressed = Clock::now();
   display.PressWith(kControl, 's');
-  for (struct stat now {}; MillisecondsSince(pressed) < 20000; usleep(500)) {
+  for (struct stat now{}; MillisecondsSince(pressed) < 20000; usleep(500)) {
     if (stat(file.c_str(), &now) == 0 && now.st_ino != before.st_ino) break;
   }
   std::printf("%.1f\n", MillisecondsSince(pressed));

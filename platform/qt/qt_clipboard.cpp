@@ -8,7 +8,9 @@
 
 namespace kestri {
 
-std::u16string QtClipboard::Text() { return FromQt(QGuiApplication::clipboard()->text()); }
+std::u16string QtClipboard::Text() {
+  return FromQt(QGuiApplication::clipboard()->text());
+}
 
 // Other programs of the desktop expect LF, so CR LF leaves as LF; our own paste makes CR LF again.
 void QtClipboard::SetText(std::u16string_view text) {

@@ -94,7 +94,8 @@ std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& r
   return Answer(dialog);
 }
 
-std::optional<std::u16string> QtFileDialog::AskFolder(const std::u16string& title, const std::u16string& folder) {
+std::optional<std::u16string> QtFileDialog::AskFolder(const std::u16string& title,
+                                                      const std::u16string& folder) {
   InstallJapaneseLabels();
   QFileDialog dialog(owner_, ToQt(title), ToQtPath(folder));
   dialog.setOption(QFileDialog::DontUseNativeDialog);

@@ -9,8 +9,8 @@
 
 namespace kestri {
 
-// Rows for the toolkit out of "caption|pattern;pattern|...": the caption stays as it is, the patterns stand in a
-// second pair of brackets that the dialog hides. "*.*" means every name.
+// Rows for the toolkit out of "caption|pattern;pattern|...": the caption stays as it is, the patterns stand
+// in a second pair of brackets that the dialog hides. "*.*" means every name.
 QStringList NameFilters(const std::u16string& filter);
 
 class QtFileDialog : public FileDialog {

@@ -22,21 +22,30 @@ std::vector<Button> ButtonsOf(MessageButtons buttons) {
   const Button yes{MessageAnswer::Yes, u"はい(&Y)", QMessageBox::YesRole};
   const Button no{MessageAnswer::No, u"いいえ(&N)", QMessageBox::NoRole};
   switch (buttons) {
-    case MessageButtons::Ok: return {ok};
-    case MessageButtons::OkCancel: return {ok, cancel};
-    case MessageButtons::YesNo: return {yes, no};
-    case MessageButtons::YesNoCancel: return {yes, no, cancel};
+    case MessageButtons::Ok:
+      return {ok};
+    case MessageButtons::OkCancel:
+      return {ok, cancel};
+    case MessageButtons::YesNo:
+      return {yes, no};
+    case MessageButtons::YesNoCancel:
+      return {yes, no, cancel};
   }
   return {ok};
 }
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
-    case MessageIcon::Critical: return QMessageBox::Critical;
-    case MessageIcon::Question: return QMessageBox::Question;
-    case MessageIcon::Exclamation: return QMessageBox::Warning;
-    case MessageIcon::Information: return QMessageBox::Information;
-    case MessageIcon::None: break;
+    case MessageIcon::Critical:
+      return QMessageBox::Critical;
+    case MessageIcon::Question:
+      return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::Information:
+      return QMessageBox::Information;
+    case MessageIcon::None:
+      break;
   }
   return QMessageBox::NoIcon;
 }

@@ -23,7 +23,9 @@ bool AskFileManager(const char* method, const QString& path) {
        QStringLiteral("array:string:") + uri, QStringLiteral("string:")});
 }
 
-bool IsProgram(const QFileInfo& file) { return file.isFile() && file.isExecutable(); }
+bool IsProgram(const QFileInfo& file) {
+  return file.isFile() && file.isExecutable();
+}
 
 // The program of a .desktop file: the first word of its Exec line.
 QString ProgramOfDesktopEntry(const QString& name) {
@@ -74,7 +76,9 @@ bool QtShell::Explore(std::u16string_view folder) {
   return QProcess::startDetached(QStringLiteral("xdg-open"), {ToQtPath(folder)});
 }
 
-bool QtShell::Properties(std::u16string_view path) { return AskFileManager("ShowItemProperties", ToQtPath(path)); }
+bool QtShell::Properties(std::u16string_view path) {
+  return AskFileManager("ShowItemProperties", ToQtPath(path));
+}
 
 std::u16string QtShell::TypeName(std::u16string_view path) {
   return FromQt(QMimeDatabase().mimeTypeForFile(ToQtPath(path)).comment());
@@ -83,7 +87,8 @@ std::u16string QtShell::TypeName(std::u16string_view path) {
 std::u16string QtShell::IconName(std::u16string_view path) {
   const QFileInfo file(ToQtPath(path));
   const auto mode = QMimeDatabase::MatchExtension;
-  return FromQt(file.isDir() ? QStringLiteral("folder") : QMimeDatabase().mimeTypeForFile(file, mode).iconName());
+  return FromQt(file.isDir() ? QStringLiteral("folder")
+                             : QMimeDatabase().mimeTypeForFile(file, mode).iconName());
 }
 
 void QtShell::AddToRecentDocuments(std::u16string_view path) {

@@ -4,7 +4,9 @@
 
 namespace kestri {
 
-void QtWindowServices::Beep() { QApplication::beep(); }
+void QtWindowServices::Beep() {
+  QApplication::beep();
+}
 
 void QtWindowServices::SetBusyPointer(bool busy) {
   if (busy == busy_) return;
@@ -16,6 +18,8 @@ void QtWindowServices::SetBusyPointer(bool busy) {
   }
 }
 
-void QtWindowServices::ProcessEvents() { QCoreApplication::processEvents(); }
+void QtWindowServices::ProcessEvents() {
+  QCoreApplication::processEvents();
+}
 
 }  // namespace kestri

@@ -31,7 +31,8 @@ QByteArray Bookmark(const QString& path) {
              "  <bookmark href=\"%1\" added=\"%2\" modified=\"%2\" visited=\"%2\">\n    <info>\n"
              "      <metadata owner=\"http://freedesktop.org\">\n        <mime:mime-type type=\"%3\"/>\n"
              "        <bookmark:applications>\n"
-             "          <bookmark:application name=\"%4\" exec=\"&apos;Kestri %u&apos;\" modified=\"%2\" count=\"1\"/>\n"
+             "          <bookmark:application name=\"%4\" exec=\"&apos;Kestri %u&apos;\" modified=\"%2\" "
+             "count=\"1\"/>\n"
              "        </bookmark:applications>\n      </metadata>\n    </info>\n  </bookmark>\n")
       .arg(uri, now, type, name)
       .toUtf8();

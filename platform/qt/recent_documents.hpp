@@ -5,8 +5,8 @@
 
 namespace kestri {
 
-// Puts the document at the end of the list, once. The list is replaced as a whole; a list that cannot be read or
-// written is left alone.
+// Puts the document at the end of the list, once. The list is replaced as a whole; a list that cannot be read
+// or written is left alone.
 void RegisterRecentDocument(const QString& path);
 
 }  // namespace kestri

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QProcess>
 #include <QScreen>
+#include <QToolTip>
 
 #include "platform/qt/qt_text.hpp"
 #include "shell/forms/icons.hpp"
@@ -41,7 +42,9 @@ std::vector<std::u16string> ScreenFontFamilies() {
   return families;
 }
 
-PixelRect ToPixelRect(const QRect& rect) { return {rect.left(), rect.top(), rect.width(), rect.height()}; }
+PixelRect ToPixelRect(const QRect& rect) {
+  return {rect.left(), rect.top(), rect.width(), rect.height()};
+}
 
 }  // namespace
 
@@ -50,7 +53,8 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
       settings_(std::move(settings)),
       control_(services_.clipboard),
       tagServices_(control_),
-      text_(control_, services_.state, services_.common, *this, tagServices_, services_.clipboard, services_.boxes),
+      text_(control_, services_.state, services_.common, *this, tagServices_, services_.clipboard,
+            services_.boxes),
       document_(control_, services_.state, services_.common, services_.boxes, services_.dialogs, *this,
                 services_.fallbacks),
       popupForm_(this),
@@ -93,23 +97,25 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
 }
 
 // The view goes before the control that it listens to.
-HTMLfrm::~HTMLfrm() { delete view_; }
+HTMLfrm::~HTMLfrm() {
+  delete view_;
+}
 
 void HTMLfrm::BuildBars() {
   panes_ = new StatusPanes(this);
-  actions_ = new CommandActions(
-      commands_,
-      {.hint =
-           [this](const QString& hint) {
-             if (services_.state.menuHints != 0) panes_->SetPane(StatusPanes::kMessage, hint);
-           },
-       .unknownError =
-           [this] {
-             services_.boxes.Ask({.text = u"不明なｴﾗｰが発生しました",
-                                  .caption = std::u16string(kApplicationTitle),
-                                  .icon = MessageIcon::Exclamation});
-           }},
-      this);
+  actions_ = new CommandActions(commands_,
+                                {.hint =
+                                     [this](const QString& hint) {
+                                       if (services_.state.menuHints != 0)
+                                         panes_->SetPane(StatusPanes::kMessage, hint);
+                                     },
+                                 .unknownError =
+                                     [this] {
+                                       services_.boxes.Ask({.text = u"不明なｴﾗｰが発生しました",
+                                                            .caption = std::u16string(kApplicationTitle),
+                                                            .icon = MessageIcon::Exclamation});
+                                     }},
+                                this);
   actions_->BuildMenus(*menuBar());
   toolBar_ = new ToolBar(*actions_, this);
   addToolBar(toolBar_);
@@ -138,7 +144,9 @@ void HTMLfrm::PlaceWindow() {
   if (placement.maximized) setWindowState(Qt::WindowMaximized);
 }
 
-QRect HTMLfrm::ScreenArea() const { return screen()->availableGeometry(); }
+QRect HTMLfrm::ScreenArea() const {
+  return screen()->availableGeometry();
+}
 
 void HTMLfrm::FinishLoading() {
   actions_->AddIcons();
@@ -146,7 +154,9 @@ void HTMLfrm::FinishLoading() {
   CountStart(services_.common);
 }
 
-bool HTMLfrm::OpenDocument(std::u16string_view path) { return document_.OpenDocument(path, ReadOnly::No); }
+bool HTMLfrm::OpenDocument(std::u16string_view path) {
+  return document_.OpenDocument(path, ReadOnly::No);
+}
 
 void HTMLfrm::closeEvent(QCloseEvent* event) {
   popup_.Deactivate();
@@ -179,13 +189,21 @@ void HTMLfrm::MessageToStatusBar(std::u16string_view text) {
   panes_->SetPane(StatusPanes::kMessage, ToQt(StampedMessage(text, services_.common.PortSet().clock.Now())));
 }
 
-void HTMLfrm::SetStatusPane(int pane, std::u16string_view text) { panes_->SetPane(pane, ToQt(text)); }
+void HTMLfrm::SetStatusPane(int pane, std::u16string_view text) {
+  panes_->SetPane(pane, ToQt(text));
+}
 
-void HTMLfrm::DocumentModified() { document_.TextChanged(); }
+void HTMLfrm::DocumentModified() {
+  document_.TextChanged();
+}
 
-void HTMLfrm::SetTextHidden(bool hidden) { view_->SetTextHidden(hidden); }
+void HTMLfrm::SetTextHidden(bool hidden) {
+  view_->SetTextHidden(hidden);
+}
 
-void HTMLfrm::FocusText() { view_->setFocus(); }
+void HTMLfrm::FocusText() {
+  view_->setFocus();
+}
 
 void HTMLfrm::BringToFront() {
   raise();
@@ -203,9 +221,13 @@ void HTMLfrm::ShowTextMenu() {
   menu.exec(QCursor::pos());
 }
 
-void HTMLfrm::PaintTextDecor(Decor rows) { view_->PaintTextDecor(rows); }
+void HTMLfrm::PaintTextDecor(Decor rows) {
+  view_->PaintTextDecor(rows);
+}
 
-void HTMLfrm::ResetCaretMemo() { view_->ResetCaretMemo(); }
+void HTMLfrm::ResetCaretMemo() {
+  view_->ResetCaretMemo();
+}
 
 void HTMLfrm::SetDragMode(bool) {}
 
@@ -217,7 +239,9 @@ void HTMLfrm::OpenInNewInstance(std::u16string_view path) {
   QProcess::startDetached(QCoreApplication::applicationFilePath(), {ToQtPath(path)});
 }
 
-void HTMLfrm::SetCaption(std::u16string_view caption) { setWindowTitle(ToQt(caption)); }
+void HTMLfrm::SetCaption(std::u16string_view caption) {
+  setWindowTitle(ToQt(caption));
+}
 
 void HTMLfrm::SetWindowIcon(std::u16string_view iconName) {
   if (iconName.empty()) {
@@ -227,7 +251,9 @@ void HTMLfrm::SetWindowIcon(std::u16string_view iconName) {
   }
 }
 
-void HTMLfrm::HTMLToolsEnable(bool) { toolBar_->RefreshStates(); }
+void HTMLfrm::HTMLToolsEnable(bool) {
+  toolBar_->RefreshStates();
+}
 
 ScrollPosition HTMLfrm::GetScrollPosition() {
   const EditView::ScrollState state = view_->ScrollPosition();
@@ -238,7 +264,9 @@ void HTMLfrm::SetScrollPosition(ScrollPosition position) {
   view_->SetScrollPosition({.firstLine = position.vertical, .x = position.horizontal});
 }
 
-void HTMLfrm::RefreshStatus() { view_->PaintTextDecor(Decor::Full); }
+void HTMLfrm::RefreshStatus() {
+  view_->PaintTextDecor(Decor::Full);
+}
 
 void HTMLfrm::DocumentChanged() {
   popup_.Deactivate();
@@ -266,7 +294,13 @@ std::optional<PixelRect> HTMLfrm::GetCaretPixel() {
   return ToPixelRect(QRect(view_->viewport()->mapToGlobal(caret.topLeft()), caret.size()));
 }
 
-PixelRect HTMLfrm::ScreenOfCaret() { return ToPixelRect(ScreenArea()); }
+PixelRect HTMLfrm::ScreenOfCaret() {
+  return ToPixelRect(ScreenArea());
+}
+
+void HTMLfrm::TipComments(std::u16string_view text) {
+  QToolTip::showText(view_->viewport()->mapToGlobal(view_->CaretRect().bottomLeft()), ToQt(text), view_);
+}
 
 int HTMLfrm::TextWidth(std::u16string_view text) {
   return QFontMetrics(view_->Style().font).horizontalAdvance(ToQt(text)) * kTwipsPerPixel;

@@ -105,13 +105,13 @@ class HTMLfrm : public QMainWindow,
   int TextWidth(std::u16string_view text) override;
   bool TextHasFocus() override { return view_->hasFocus(); }
 
-  // TagHints: there is no hint box yet, so nothing is ever up.
+  // TagHints. Hints do not follow the caret; a text that must be told stands in a tool tip at the caret.
   bool HintVisible() override { return false; }
   void seTagHide() override {}
   void seTagHint() override {}
   bool seTagHintPriSet() override { return false; }
   void DismissHint() override {}
-  void TipComments(std::u16string_view text) override { MessageToStatusBar(text); }
+  void TipComments(std::u16string_view text) override;
 
   Services services_;
   WindowSettings settings_;

@@ -12,10 +12,12 @@ namespace {
 
 constexpr char kRowProperty[] = "commandRow";
 
-int IndexOf(const CommandRow& row) { return static_cast<int>(&row - CommandRows().data()); }
+int IndexOf(const CommandRow& row) {
+  return static_cast<int>(&row - CommandRows().data());
+}
 
-// Only while their menu is open do items show whether they may run: a shortcut must never meet an item that was
-// left disabled by an earlier state of the text.
+// Only while their menu is open do items show whether they may run: a shortcut must never meet an item that
+// was left disabled by an earlier state of the text.
 void ShowStates(const QMenu& menu, const CommandActions& actions, bool open) {
   for (QAction* action : menu.actions()) {
     const QVariant index = action->property(kRowProperty);
@@ -29,7 +31,8 @@ void ShowStates(const QMenu& menu, const CommandActions& actions, bool open) {
 
 CommandActions::CommandActions(EditorCommands& commands, Tell tell, QObject* parent)
     : QObject(parent), commands_(commands), tell_(std::move(tell)) {
-  for (const CommandRow& row : CommandRows()) actions_.push_back(row.IsSeparator() ? nullptr : MakeAction(row));
+  for (const CommandRow& row : CommandRows())
+    actions_.push_back(row.IsSeparator() ? nullptr : MakeAction(row));
 }
 
 QAction* CommandActions::MakeAction(const CommandRow& row) {

@@ -15,7 +15,8 @@ QString Latin(std::string_view text) {
 
 QIcon CommandIcon(std::string_view name) {
   if (name.empty()) return {};
-  if (name.starts_with(kOwn)) return QIcon(QStringLiteral(":/tools/%1.svg").arg(Latin(name.substr(kOwn.size()))));
+  if (name.starts_with(kOwn))
+    return QIcon(QStringLiteral(":/tools/%1.svg").arg(Latin(name.substr(kOwn.size()))));
   return QIcon::fromTheme(Latin(name));
 }
 

@@ -20,7 +20,8 @@ int WidthOf(const QLabel& label, const QString& widest) {
 }  // namespace
 
 StatusPanes::StatusPanes(QWidget* parent) : QStatusBar(parent) {
-  static const std::array<const char16_t*, 5> kNames = {u"メッセージ", u"状態", u"改行コード", u"文書の種類", u"時刻"};
+  static const std::array<const char16_t*, 5> kNames = {u"メッセージ", u"状態", u"改行コード", u"文書の種類",
+                                                        u"時刻"};
   static const std::array<const char16_t*, 5> kWidest = {u"", u"99999(ｲﾝﾃﾞｯｸｽ) / 99999", u"CR+LF", u"HTML",
                                                          u"00:00:00 AM"};
   setContentsMargins(4, 0, 0, 0);

@@ -10,7 +10,9 @@ namespace {
 
 constexpr std::int32_t kDefaultInstanceLimit = 5;
 
-std::size_t RootLength(PathStyle style) { return style == PathStyle::Windows ? 3 : 1; }
+std::size_t RootLength(PathStyle style) {
+  return style == PathStyle::Windows ? 3 : 1;
+}
 
 }  // namespace
 
@@ -52,7 +54,8 @@ bool ClassMain::InstanceLimitAllows() {
   const auto limit = ToInteger(common_.GetINI(common_.ExeName(), u"Setting", u"AppECount", u"5"));
   const std::int32_t allowed = limit.value_or(kDefaultInstanceLimit);
   if (CountOwnProcesses(common_.PortSet().environment.ExecutablePath()) <= allowed) return true;
-  Refuse(u"\"" + common_.ExeName() + u"\"は " + ToText(allowed) + u"個以上起動できないように設定されています");
+  Refuse(u"\"" + common_.ExeName() + u"\"は " + ToText(allowed) +
+         u"個以上起動できないように設定されています");
   return false;
 }
 
@@ -87,7 +90,8 @@ void ClassMain::ActOn(std::u16string_view line) {
 }
 
 void ClassMain::Refuse(std::u16string text) {
-  boxes_.Ask({.text = std::move(text), .caption = std::u16string(kApplicationTitle), .icon = MessageIcon::Critical});
+  boxes_.Ask(
+      {.text = std::move(text), .caption = std::u16string(kApplicationTitle), .icon = MessageIcon::Critical});
 }
 
 }  // namespace kestri

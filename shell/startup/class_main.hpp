@@ -22,8 +22,8 @@ class StartupEditor {
 
 class ClassMain {
  public:
-  static constexpr std::int32_t kEnd = -1;   // refused, or nothing left to do
-  static constexpr std::int32_t kLive = 1;   // a window is open
+  static constexpr std::int32_t kEnd = -1;  // refused, or nothing left to do
+  static constexpr std::int32_t kLive = 1;  // a window is open
 
   ClassMain(const ClassCommon& common, ApplicationState& state, MessageBox& boxes, StartupEditor& editor)
       : common_(common), state_(state), boxes_(boxes), editor_(editor) {}

@@ -22,10 +22,13 @@ std::u16string RawCommandLine(std::span<char* const> arguments) {
     if (i > 0) line += u' ';
     line += FromUtf8(arguments[i]);
   }
-  return ClassCommon::StringSurround(line, ClassCommon::Surround::Remove, kQuote, kQuote, Compare::Binary, true);
+  return ClassCommon::StringSurround(line, ClassCommon::Surround::Remove, kQuote, kQuote, Compare::Binary,
+                                     true);
 }
 
-bool AsksForVersion(std::u16string_view line) { return line == u"/?"; }
+bool AsksForVersion(std::u16string_view line) {
+  return line == u"/?";
+}
 
 StartMode ModeOf(std::u16string_view line, const ClassCommon& common) {
   const std::u16string upper = UCase(line);
@@ -37,7 +40,8 @@ StartMode ModeOf(std::u16string_view line, const ClassCommon& common) {
 
 std::u16string VersionText(int major, int minor, int revision) {
   std::u16string text(kApplicationTitle);
-  text += u" Ver." + FormatZeros(major, 2) + u"." + FormatZeros(minor, 2) + u"." + FormatZeros(revision, 3) + u"e07";
+  text += u" Ver." + FormatZeros(major, 2) + u"." + FormatZeros(minor, 2) + u"." + FormatZeros(revision, 3) +
+          u"e07";
   text += u"\r\n\r\n● ｺﾏﾝﾄﾞﾗｲﾝ引数\r\n";
   text += u" ・/SL ...  ﾌｫﾙﾀﾞのｲﾒｰｼﾞｽﾗｲﾄﾞ表示\r\n";
   text += u" ・/SN ...  起動時に新規作成ｳｨﾝﾄﾞｳを表示\r\n";

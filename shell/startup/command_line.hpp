@@ -25,8 +25,8 @@ std::u16string RawCommandLine(std::span<char* const> arguments);
 // Exactly "/?".
 bool AsksForVersion(std::u16string_view line);
 
-// A line that begins with "/" is a path when it exists or lies in an existing folder other than the root, and a
-// switch otherwise.
+// A line that begins with "/" is a path when it exists or lies in an existing folder other than the root, and
+// a switch otherwise.
 StartMode ModeOf(std::u16string_view line, const ClassCommon& common);
 
 // The text of the version box.

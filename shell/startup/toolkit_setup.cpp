@@ -22,7 +22,8 @@ void PrepareLook() {
   }
   const QString ownIcons = QStringLiteral("Tango");
   QIcon::setFallbackThemeName(ownIcons);
-  if (QIcon::themeName().isEmpty() || QIcon::themeName() == QLatin1String("hicolor")) QIcon::setThemeName(ownIcons);
+  if (QIcon::themeName().isEmpty() || QIcon::themeName() == QLatin1String("hicolor"))
+    QIcon::setThemeName(ownIcons);
 }
 
 }  // namespace kestri

@@ -3,8 +3,8 @@
 
 namespace kestri {
 
-// Before the application object: no OpenGL integration (the editor never draws with it, and loading it costs time
-// and memory at every start).
+// Before the application object: no OpenGL integration (the editor never draws with it, and loading it costs
+// time and memory at every start).
 void PrepareEnvironment();
 
 // After it: the look, and Japanese faces in place of the names that settings and pages use.

@@ -11,17 +11,29 @@ constexpr char16_t kControlBackspace = 127;
 
 }  // namespace
 
-bool EditorCommands::Writable() const { return !around_.text.Control().Locked(); }
+bool EditorCommands::Writable() const {
+  return !around_.text.Control().Locked();
+}
 
-bool EditorCommands::CanUndo() const { return Writable() && around_.text.Control().EM_CANUNDO(); }
+bool EditorCommands::CanUndo() const {
+  return Writable() && around_.text.Control().EM_CANUNDO();
+}
 
-bool EditorCommands::CanRedo() const { return Writable() && around_.text.Control().EM_CANREDO(); }
+bool EditorCommands::CanRedo() const {
+  return Writable() && around_.text.Control().EM_CANREDO();
+}
 
-bool EditorCommands::HasSelection() const { return around_.text.Control().SelLength() > 0; }
+bool EditorCommands::HasSelection() const {
+  return around_.text.Control().SelLength() > 0;
+}
 
-bool EditorCommands::HasSelectionToCut() const { return Writable() && HasSelection(); }
+bool EditorCommands::HasSelectionToCut() const {
+  return Writable() && HasSelection();
+}
 
-bool EditorCommands::HasText() const { return around_.text.Control().Length() > 0; }
+bool EditorCommands::HasText() const {
+  return around_.text.Control().Length() > 0;
+}
 
 bool EditorCommands::TagToolsOn() const {
   return around_.state.fileKind == kFileTypeHtml || around_.state.htmlNAV != 1;
@@ -37,19 +49,33 @@ void EditorCommands::Open() {
   around_.document.OpenFileDialog(u"");
 }
 
-void EditorCommands::Save() { around_.document.OverwriteSave(); }
+void EditorCommands::Save() {
+  around_.document.OverwriteSave();
+}
 
-void EditorCommands::SaveAs() { around_.document.SaveAsDialog(u""); }
+void EditorCommands::SaveAs() {
+  around_.document.SaveAsDialog(u"");
+}
 
-void EditorCommands::OpenCurrentFolder() { around_.common.ExecuteShow(around_.state.currentFolder, 1, u""); }
+void EditorCommands::OpenCurrentFolder() {
+  around_.common.ExecuteShow(around_.state.currentFolder, 1, u"");
+}
 
-void EditorCommands::Exit() { around_.window.CloseWindow(); }
+void EditorCommands::Exit() {
+  around_.window.CloseWindow();
+}
 
-void EditorCommands::Undo() { around_.text.MenUNDO(0); }
+void EditorCommands::Undo() {
+  around_.text.MenUNDO(0);
+}
 
-void EditorCommands::Redo() { around_.text.MenUNDO(1); }
+void EditorCommands::Redo() {
+  around_.text.MenUNDO(1);
+}
 
-void EditorCommands::Edit(int index) { around_.text.Edit(index); }
+void EditorCommands::Edit(int index) {
+  around_.text.Edit(index);
+}
 
 void EditorCommands::PressIntoText(char16_t keyAscii) {
   if (around_.text.RefuseIfLocked()) return;
@@ -57,19 +83,37 @@ void EditorCommands::PressIntoText(char16_t keyAscii) {
   around_.text.WM_CHAR(keyAscii, 0);
 }
 
-void EditorCommands::IndentMore() { PressIntoText(kTab); }
+void EditorCommands::IndentMore() {
+  PressIntoText(kTab);
+}
 
-void EditorCommands::IndentLess() { PressIntoText(kControlBackspace); }
+void EditorCommands::IndentLess() {
+  PressIntoText(kControlBackspace);
+}
 
-void EditorCommands::HTMLEdit(int index) { around_.html.HTMLEdit_Click(index); }
+void EditorCommands::HTMLEdit(int index) {
+  around_.html.HTMLEdit_Click(index);
+}
 
-void EditorCommands::CEdit(int index) { around_.html.CEdit_Click(index); }
+void EditorCommands::CEdit(int index) {
+  around_.html.CEdit_Click(index);
+}
 
-void EditorCommands::CandidatesAtCaret() { HTMLEdit(ModeAtCaret(around_.text.Control())); }
+void EditorCommands::CandidatesAtCaret() {
+  HTMLEdit(ModeAtCaret(around_.text.Control()));
+}
 
-void EditorCommands::ToggleToolBar() { around_.window.ShowToolBar(!around_.window.ToolBarVisible()); }
+void EditorCommands::CallUserInTo() {
+  around_.html.mnuCallUserInTo_Click();
+}
 
-void EditorCommands::ToggleStatusBar() { around_.window.ShowStatusBar(!around_.window.StatusBarVisible()); }
+void EditorCommands::ToggleToolBar() {
+  around_.window.ShowToolBar(!around_.window.ToolBarVisible());
+}
+
+void EditorCommands::ToggleStatusBar() {
+  around_.window.ShowStatusBar(!around_.window.StatusBarVisible());
+}
 
 void EditorCommands::ToggleGuideLines() {
   around_.state.gLine = around_.state.gLine == 0 ? 1 : 0;
@@ -77,7 +121,8 @@ void EditorCommands::ToggleGuideLines() {
 }
 
 void EditorCommands::OpenHelp(std::u16string_view fileName) {
-  const std::u16string path = around_.common.Join(around_.common.Join(around_.common.ProgramFolder(), u"Help"), fileName);
+  const std::u16string path =
+      around_.common.Join(around_.common.Join(around_.common.ProgramFolder(), u"Help"), fileName);
   if (around_.common.PathExists(path)) {
     around_.common.ExecuteShow(path, 3, u"");
   } else {
@@ -85,6 +130,8 @@ void EditorCommands::OpenHelp(std::u16string_view fileName) {
   }
 }
 
-void EditorCommands::ShowVersion() { around_.window.ShowVersion(); }
+void EditorCommands::ShowVersion() {
+  around_.window.ShowVersion();
+}
 
 }  // namespace kestri

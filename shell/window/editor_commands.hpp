@@ -69,6 +69,7 @@ class EditorCommands {
   void HTMLEdit(int index);
   void CEdit(int index);
   void CandidatesAtCaret();
+  void CallUserInTo();
 
   void ToggleToolBar();
   void ToggleStatusBar();

@@ -8,9 +8,9 @@ namespace {
 constexpr std::int16_t kClipFile = 10;
 constexpr std::int16_t kAsked = 11;
 
-constexpr std::array<std::u16string_view, 15> kExtensions = {u"",      u".txt",   u".htm", u".htm", u".css",
-                                                             u".c",    u".h",     u".bat", u".ini", u".java",
-                                                             u".clped", u"",      u".vbs", u".txt", u".aat"};
+constexpr std::array<std::u16string_view, 15> kExtensions = {u"",       u".txt", u".htm", u".htm", u".css",
+                                                             u".c",     u".h",   u".bat", u".ini", u".java",
+                                                             u".clped", u"",     u".vbs", u".txt", u".aat"};
 
 std::u16string TemplateText(std::int16_t kind, const ClassCommon& common) {
   if (kind == kClipFile) return {};
@@ -44,7 +44,8 @@ bool NewText(std::int16_t kind, const ClassCommon& common, Document& document, D
   document.SetDocumentText(TemplateText(kind, common), KeepModified::No);
   state.currentFolder = FolderForNew(common, state);
   const std::u16string withoutDot = extension->empty() ? u"" : extension->substr(1);
-  document.ApplyOpenedFile(common.SameFileName(state.currentFolder, u"無題", withoutDot), ReadOnly::No, u"CR+LF");
+  document.ApplyOpenedFile(common.SameFileName(state.currentFolder, u"無題", withoutDot), ReadOnly::No,
+                           u"CR+LF");
   window.MessageToStatusBar(extension->empty() ? u"新規作成 (白紙)" : u"新規作成 (" + *extension + u")");
   return true;
 }

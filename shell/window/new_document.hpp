@@ -17,8 +17,8 @@ std::optional<std::u16string> NewDocumentExtension(std::int16_t kind);
 // Kind 11: asks for the extension; a leading "." is added when missing. Nothing on cancel.
 std::optional<std::u16string> AskExtension(InputBox& box);
 
-// Replaces the document by a new one named "無題" in the current folder, filled from the template of its kind when
-// there is one. False when the user cancelled; the document is then as it was.
+// Replaces the document by a new one named "無題" in the current folder, filled from the template of its kind
+// when there is one. False when the user cancelled; the document is then as it was.
 bool NewText(std::int16_t kind, const ClassCommon& common, Document& document, DocumentWindow& window,
              ApplicationState& state, InputBox& box);
 

@@ -23,7 +23,8 @@ std::int32_t SettingsReader::Long(std::string_view section, std::string_view key
   return value.value_or(defaultValue);
 }
 
-std::int16_t SettingsReader::Integer(std::string_view section, std::string_view key, std::int16_t defaultValue) {
+std::int16_t SettingsReader::Integer(std::string_view section, std::string_view key,
+                                     std::int16_t defaultValue) {
   const auto value = ToInteger(Text(section, key, ToText(defaultValue)));
   if (!value) damaged_ = true;
   return value.value_or(defaultValue);

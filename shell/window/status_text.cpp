@@ -10,16 +10,21 @@ std::u16string TimeOfDay(const std::tm& now) {
   return FormatZeros(hour, 2) + u":" + FormatZeros(now.tm_min, 2) + u":" + FormatZeros(now.tm_sec, 2);
 }
 
-std::u16string HalfOfDay(const std::tm& now) { return now.tm_hour < 12 ? u"AM" : u"PM"; }
+std::u16string HalfOfDay(const std::tm& now) {
+  return now.tm_hour < 12 ? u"AM" : u"PM";
+}
 
 }  // namespace
 
 std::u16string StampedMessage(std::u16string_view text, const std::tm& now) {
   if (text.empty()) return {};
-  return std::u16string(text) + u" [ " + FormatZeros(now.tm_year + 1900, 4) + u"/" + FormatZeros(now.tm_mon + 1, 2) +
-         u"/" + FormatZeros(now.tm_mday, 2) + u" " + TimeOfDay(now) + u"(" + HalfOfDay(now) + u")" + u" ]";
+  return std::u16string(text) + u" [ " + FormatZeros(now.tm_year + 1900, 4) + u"/" +
+         FormatZeros(now.tm_mon + 1, 2) + u"/" + FormatZeros(now.tm_mday, 2) + u" " + TimeOfDay(now) + u"(" +
+         HalfOfDay(now) + u")" + u" ]";
 }
 
-std::u16string ClockText(const std::tm& now) { return TimeOfDay(now) + u" " + HalfOfDay(now); }
+std::u16string ClockText(const std::tm& now) {
+  return TimeOfDay(now) + u" " + HalfOfDay(now);
+}
 
 }  // namespace kestri

@@ -108,8 +108,8 @@ void CountStart(const ClassCommon& common) {
   common.SetINI(common.ExeName(), u"Setting", u"Act", ToText(std::int64_t{starts} + 1));
 }
 
-void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state, const WindowSettings& settings,
-                        WindowState windowState) {
+void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state,
+                        const WindowSettings& settings, WindowState windowState) {
   common.Profiles().Update(common.IniPath(0, common.ExeName()), [&](ProfileContent& content) {
     SettingsWriter writer(content);
     SaveEditing(writer, state);

@@ -30,14 +30,15 @@ struct WindowSettings {
   WindowRectangle rectangle;
 };
 
-// Reads the window's settings and those that live in the application state. Nothing when a number is unusable.
+// Reads the window's settings and those that live in the application state. Nothing when a number is
+// unusable.
 std::optional<WindowSettings> LoadWindowSettings(const ClassCommon& common, ApplicationState& state);
 
 // Counts the start in [Setting] Act.
 void CountStart(const ClassCommon& common);
 
 // One write of everything that a close remembers. A failed write is ignored.
-void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state, const WindowSettings& settings,
-                        WindowState windowState);
+void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state,
+                        const WindowSettings& settings, WindowState windowState);
 
 }  // namespace kestri

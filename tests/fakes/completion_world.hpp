@@ -118,6 +118,14 @@ class RecordingHints : public TagHints {
   bool inTag = true;
 };
 
+inline constexpr std::u16string_view kSmallTags =
+    u"[NAME]\n001=A\n002=ABBR\n003=P\n004=!-- --\n"
+    u"[EXPLAIN]\n001=ｱﾝｶｰ\n002=略語\n003=段落\n004=\n"
+    u"[DEFTAG]\n001=<A href=\"\">\n003=P align=\"left\"\n";
+inline constexpr std::u16string_view kSmallOptions =
+    u"[PRO]\n001=href\n002=align\n003=onclick\n004=!!nowrap\n[EXPLAIN]\n001=ﾘﾝｸ先\n003=ｸﾘｯｸ時\n";
+inline constexpr std::u16string_view kSmallParams = u"[PARAM]\n001=left\n002=center\n";
+
 // Profile text as the user sees it, stored in the code page. A line feed means CR LF.
 inline std::string ProfileBytes(std::u16string_view text) {
   return code_page::Encode(Replace(text, u"\n", kCrLf));
@@ -134,12 +142,9 @@ class CompletionWorld {
     tags.AttachHints(&hints);
     text.InstallSubclass(1);
     // A small table for every test; a test replaces what it needs before the popup is loaded.
-    SetTags(
-        u"[NAME]\n001=A\n002=ABBR\n003=P\n004=!-- --\n"
-        u"[EXPLAIN]\n001=ｱﾝｶｰ\n002=略語\n003=段落\n004=\n[DEFTAG]\n001=<A href=\"\">\n003=P "
-        u"align=\"left\"\n");
-    SetOptions(u"[PRO]\n001=href\n002=align\n003=onclick\n004=!!nowrap\n[EXPLAIN]\n001=ﾘﾝｸ先\n003=ｸﾘｯｸ時\n");
-    SetParams(u"[PARAM]\n001=left\n002=center\n");
+    SetTags(kSmallTags);
+    SetOptions(kSmallOptions);
+    SetParams(kSmallParams);
   }
 
   void SetTags(std::u16string_view profile) { Put(u"DataFiles/SelectTAG.lib", profile); }

@@ -26,18 +26,21 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
     {"document", {"platform", "shell/common", "document/edit_control"}},
     {"tags", {"platform", "shell/common", "document", "document/edit_control"}},
     {"ui", {"platform", "platform/qt", "shell/common", "document", "document/edit_control"}},
-    {"document/forms", {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "ui"}},
+    {"document/forms",
+     {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "ui"}},
     {"tags/forms",
      {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "tags", "ui"}},
     {"shell/window", {"platform", "shell/common", "document", "document/edit_control", "tags"}},
     {"shell/startup",
-     {"platform", "platform/posix", "platform/qt", "shell/common", "shell/window", "shell/forms", "document", "ui"}},
+     {"platform", "platform/posix", "platform/qt", "shell/common", "shell/window", "shell/forms", "document",
+      "ui"}},
     {"shell/forms",
      {"platform", "platform/qt", "shell/common", "shell/window", "document", "document/edit_control",
       "document/forms", "tags", "tags/forms", "ui"}},
 };
 
-const std::set<std::string> kToolkitLayers = {"platform/qt", "ui", "document/forms", "tags/forms", "shell/forms"};
+const std::set<std::string> kToolkitLayers = {"platform/qt", "ui", "document/forms", "tags/forms",
+                                              "shell/forms"};
 
 // Start-up makes the application object.
 const std::set<std::string> kToolkitStart = {"shell/startup/main.cpp", "shell/startup/toolkit_setup.cpp"};
@@ -59,7 +62,8 @@ std::string LayerOf(const std::string& path) {
 
 std::vector<fs::path> SourceFiles() {
   std::vector<fs::path> files;
-  for (const char* top : {"platform", "shell", "document", "tags", "search", "browse", "media", "run", "settings", "ui"}) {
+  for (const char* top :
+       {"platform", "shell", "document", "tags", "search", "browse", "media", "run", "settings", "ui"}) {
     if (!fs::exists(kRoot / top)) continue;
     for (const auto& entry : fs::recursive_directory_iterator(kRoot / top)) {
       const std::string extension = entry.path().extension();
@@ -96,7 +100,8 @@ std::vector<Include> AllIncludes() {
 TEST(Layering, TheToolkitIsSeenOnlyByFormsTheToolkitFolderAndItsAdapters) {
   for (const Include& include : AllIncludes()) {
     if (!include.toolkit) continue;
-    EXPECT_TRUE(kToolkitLayers.contains(LayerOf(include.file.string())) || kToolkitStart.contains(include.file.string()))
+    EXPECT_TRUE(kToolkitLayers.contains(LayerOf(include.file.string())) ||
+                kToolkitStart.contains(include.file.string()))
         << include.file << " includes " << include.target;
   }
 }
@@ -107,7 +112,8 @@ TEST(Layering, EveryFolderIncludesOnlyWhatStandsBelowIt) {
     if (to.empty()) continue;
     const std::string from = LayerOf(include.file.string());
     ASSERT_FALSE(from.empty()) << include.file << " lies in no known layer";
-    EXPECT_TRUE(from == to || kAllowed.at(from).contains(to)) << include.file << " includes " << include.target;
+    EXPECT_TRUE(from == to || kAllowed.at(from).contains(to))
+        << include.file << " includes " << include.target;
   }
 }
 

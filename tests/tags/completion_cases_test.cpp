@@ -11,19 +11,10 @@ namespace {
 using fakes::CompletionWorld;
 using fakes::FolderCase;
 
-// "== Option.lib" begins the content of a file in DataFiles.
 void PutDictionaries(CompletionWorld& world, std::u16string_view text) {
-  constexpr std::u16string_view kHead = u"== ";
-  std::size_t begin = 0;
-  while (begin < text.size()) {
-    if (text.substr(begin, kHead.size()) != kHead)
-      throw std::runtime_error("dictionaries without a file name");
-    const std::size_t nameEnd = std::min(text.find(u'\n', begin), text.size());
-    const std::u16string_view name = text.substr(begin + kHead.size(), nameEnd - begin - kHead.size());
-    const std::size_t next = std::min(text.find(u"\n== ", nameEnd), text.size());
-    world.Put(u"DataFiles/" + std::u16string(name), text.substr(nameEnd, next - nameEnd));
-    begin = next + 1;
-  }
+  fakes::ForEachDictionary(text, [&](std::u16string_view name, std::u16string_view content) {
+    world.Put(u"DataFiles/" + std::u16string(name), content);
+  });
 }
 
 // Settings of the section Setting; "FileKind", "htmlNAV..." and "Locked" are the program's state.

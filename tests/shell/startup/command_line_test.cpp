@@ -41,7 +41,9 @@ std::u16string Line(std::vector<std::string> words) {
   return RawCommandLine(arguments);
 }
 
-TEST_F(CommandLineTest, NoArgumentIsNoMode) { EXPECT_EQ(Mode(Line({})), StartMode::None); }
+TEST_F(CommandLineTest, NoArgumentIsNoMode) {
+  EXPECT_EQ(Mode(Line({})), StartMode::None);
+}
 
 TEST_F(CommandLineTest, APathWithBlanksIsOnePathQuotedOrNot) {
   EXPECT_EQ(Line({"/x/a", "b.htm"}), u"/x/a b.htm");
@@ -54,7 +56,9 @@ TEST_F(CommandLineTest, AnExistingAbsolutePathIsAFileThoughItBeginsWithASlash) {
   EXPECT_EQ(Mode(FromUtf8(folder_.string())), StartMode::File);
 }
 
-TEST_F(CommandLineTest, ANewNameInAnExistingFolderIsAFile) { EXPECT_EQ(Mode(Path("new.htm")), StartMode::File); }
+TEST_F(CommandLineTest, ANewNameInAnExistingFolderIsAFile) {
+  EXPECT_EQ(Mode(Path("new.htm")), StartMode::File);
+}
 
 TEST_F(CommandLineTest, SwitchesWorkInAnyCaseButOnlyAlone) {
   EXPECT_EQ(Mode(u"/SN"), StartMode::NewDocumentWindow);
@@ -70,7 +74,9 @@ TEST_F(CommandLineTest, ANameInTheRootThatDoesNotExistIsASwitch) {
   EXPECT_EQ(Mode(u"/no-such-name"), StartMode::UnknownSwitch);
 }
 
-TEST_F(CommandLineTest, ARelativeNameIsAFile) { EXPECT_EQ(Mode(u"page.htm"), StartMode::File); }
+TEST_F(CommandLineTest, ARelativeNameIsAFile) {
+  EXPECT_EQ(Mode(u"page.htm"), StartMode::File);
+}
 
 TEST_F(CommandLineTest, VersionIsAskedByExactlyOneSwitch) {
   EXPECT_TRUE(AsksForVersion(u"/?"));

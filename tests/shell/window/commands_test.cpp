@@ -68,10 +68,10 @@ TEST(CommandRows, TopLevelMnemonicsNeverClash) {
 
 TEST(CommandRows, TheKeysThatAuthorsKnowAreThere) {
   const std::map<std::string_view, std::pair<std::string_view, int>> expected = {
-      {"Ctrl+N", {"MenFileM", 0}}, {"Ctrl+O", {"MenFileM", 1}}, {"Ctrl+S", {"MenFileM", 3}},
-      {"Ctrl+Shift+S", {"MenFileM", 4}}, {"Ctrl+Z", {"MenUNDO", 0}}, {"Ctrl+Y", {"MenUNDO", 1}},
-      {"Ctrl+X", {"Edit", 0}}, {"Ctrl+C", {"Edit", 1}}, {"Ctrl+V", {"Edit", 2}}, {"Ctrl+A", {"Edit", 5}},
-      {"Ctrl+Space", {"HTMLEdit", 4}}};
+      {"Ctrl+N", {"MenFileM", 0}},       {"Ctrl+O", {"MenFileM", 1}},    {"Ctrl+S", {"MenFileM", 3}},
+      {"Ctrl+Shift+S", {"MenFileM", 4}}, {"Ctrl+Z", {"MenUNDO", 0}},     {"Ctrl+Y", {"MenUNDO", 1}},
+      {"Ctrl+X", {"Edit", 0}},           {"Ctrl+C", {"Edit", 1}},        {"Ctrl+V", {"Edit", 2}},
+      {"Ctrl+A", {"Edit", 5}},           {"Ctrl+Space", {"HTMLEdit", 4}}};
   for (const auto& [key, command] : expected) {
     const CommandRow* row = FindCommand(command.first, command.second);
     ASSERT_NE(row, nullptr) << key;

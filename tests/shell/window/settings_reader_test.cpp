@@ -5,7 +5,9 @@
 namespace kestri {
 namespace {
 
-SettingsReader Reader(std::string text) { return SettingsReader(ProfileContent(std::move(text))); }
+SettingsReader Reader(std::string text) {
+  return SettingsReader(ProfileContent(std::move(text)));
+}
 
 TEST(SettingsReader, AMissingKeyIsItsDefault) {
   SettingsReader reader = Reader("");
@@ -15,7 +17,8 @@ TEST(SettingsReader, AMissingKeyIsItsDefault) {
 }
 
 TEST(SettingsReader, ReadsShiftJisTextAndNumbers) {
-  SettingsReader reader = Reader("[Setting]\r\nFontName=\x82\x6c\x82\x72 \x96\xBE\x92\xA9\r\nHTMLfrmLeft=-15\r\n");
+  SettingsReader reader =
+      Reader("[Setting]\r\nFontName=\x82\x6c\x82\x72 \x96\xBE\x92\xA9\r\nHTMLfrmLeft=-15\r\n");
   EXPECT_EQ(reader.Text("setting", "fontname", u""), u"ＭＳ 明朝");
   EXPECT_EQ(reader.Long("Setting", "HTMLfrmLeft", 1000), -15);
   EXPECT_FALSE(reader.Damaged());

@@ -21,7 +21,9 @@ TEST(StampedMessage, CarriesDateTimeAndHalfOfTheDay) {
   EXPECT_EQ(StampedMessage(u"保存完了", At(16, 5, 6)), u"保存完了 [ 2003/02/01 04:05:06(PM) ]");
 }
 
-TEST(StampedMessage, AnEmptyTextClearsThePane) { EXPECT_EQ(StampedMessage(u"", At(4, 5, 6)), u""); }
+TEST(StampedMessage, AnEmptyTextClearsThePane) {
+  EXPECT_EQ(StampedMessage(u"", At(4, 5, 6)), u"");
+}
 
 TEST(ClockText, NoonAndMidnightAreTwelve) {
   EXPECT_EQ(ClockText(At(0, 0, 7)), u"12:00:07 AM");

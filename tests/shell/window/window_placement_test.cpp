@@ -64,7 +64,8 @@ TEST(PlacementAtClose, LastCloseSavesTheRectangleUnlessMaximized) {
 TEST(KeepOnScreen, AWindowOfAnotherScreenComesBack) {
   const WindowRectangle screen{.left = 0, .top = 0, .width = 15000, .height = 12000};
   const WindowRectangle lost{.left = 90000, .top = -5000, .width = 9500, .height = 7200};
-  EXPECT_EQ(KeepOnScreen(lost, screen), (WindowRectangle{.left = 5500, .top = 0, .width = 9500, .height = 7200}));
+  EXPECT_EQ(KeepOnScreen(lost, screen),
+            (WindowRectangle{.left = 5500, .top = 0, .width = 9500, .height = 7200}));
 }
 
 TEST(KeepOnScreen, AHugeOrTinyWindowBecomesUsable) {

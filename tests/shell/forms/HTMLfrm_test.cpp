@@ -1,0 +1,215 @@
+// The editor window by its keys, menus and messages.
+#include "shell/forms/HTMLfrm.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QMenuBar>
+
+#include "shell/common/code_page.hpp"
+#include "tests/shell/forms/editor_desk.hpp"
+
+namespace kestri {
+namespace {
+
+using fakes::EditorDesk;
+
+class HTMLfrmTest : public testing::Test {
+ protected:
+  void OpenPage(std::u16string_view text) {
+    desk.folder.Write("page.htm", code_page::Encode(text));
+    desk.Open();
+    ASSERT_TRUE(desk.window->OpenDocument(desk.folder.Text(u"page.htm")));
+  }
+  std::string Title() const { return desk.window->windowTitle().toStdString(); }
+
+  EditorDesk desk;
+};
+
+TEST_F(HTMLfrmTest, OpensWithANewPageNamedUntitled) {
+  desk.Open();
+  EXPECT_EQ(Title(), "無題.htm - Kestrile (Version 1.0.0e07)  #01");
+  EXPECT_EQ(desk.Pane(StatusPanes::kLineEnd), "CR+LF");
+  EXPECT_EQ(desk.Pane(StatusPanes::kFileKind), "HTML");
+  EXPECT_TRUE(desk.window->TextView().hasFocus());
+}
+
+TEST_F(HTMLfrmTest, TheRoadOfOneTagEndsOnDisk) {
+  OpenPage(u"本文\r\n");
+  desk.Press(u"<a{Enter} hr{Tab}=l{Enter}{Ctrl+S}");
+  EXPECT_EQ(desk.folder.Read("page.htm"), code_page::Encode(u"<A href=\"left\">本文\r\n"));
+  EXPECT_TRUE(desk.Pane(StatusPanes::kMessage).starts_with("保存完了 ["));
+  EXPECT_TRUE(desk.boxes.asked.empty());
+}
+
+TEST_F(HTMLfrmTest, TheFirstChangeIsMarkedAndASaveTakesTheMarkAway) {
+  OpenPage(u"x\r\n");
+  desk.Press(u"a");
+  EXPECT_TRUE(Title().starts_with("page.htm(変更) - ")) << Title();
+  EXPECT_EQ(desk.Pane(StatusPanes::kState), "変更あり");
+  desk.Press(u"{Ctrl+S}");
+  EXPECT_TRUE(Title().starts_with("page.htm - ")) << Title();
+  EXPECT_EQ(desk.Pane(StatusPanes::kState), "");
+}
+
+TEST_F(HTMLfrmTest, ControlSpaceOpensTheCandidatesThatFitTheCaret) {
+  desk.Open();
+  const std::pair<const char16_t*, const char*> rows[] = {{u"‸", "<A‸>"},
+                                                          {u"<p‸>", "<P‸>"},
+                                                          {u"<p al‸>", "<p align‸>"},
+                                                          {u"<p align=c‸>", "<p align=\"center\"‸>"}};
+  for (const auto& [before, after] : rows) {
+    desk.Put(before);
+    desk.Press(u"{Ctrl+ }");
+    EXPECT_TRUE(desk.window->Popup().Visible()) << ToUtf8(before);
+    desk.Press(u"{Enter}");
+    EXPECT_EQ(desk.Row(), after) << ToUtf8(before);
+  }
+}
+
+TEST_F(HTMLfrmTest, UndoTakesAnAcceptedTagBackInOneStepAndRedoBringsItAgain) {
+  desk.Open();
+  desk.Press(u"<a{Enter}");
+  EXPECT_EQ(desk.Row(), "<A‸>");
+  desk.Press(u"{Ctrl+Z}");
+  EXPECT_EQ(desk.Row(), "<a‸");
+  desk.Press(u"{Ctrl+Y}");
+  EXPECT_EQ(desk.Row(), "<A‸>");
+}
+
+TEST_F(HTMLfrmTest, CutCopyPasteAndSelectAllWorkByTheirKeys) {
+  desk.Open();
+  desk.Put(u"あ⟦い⟧う");
+  desk.Press(u"{Ctrl+X}");
+  EXPECT_EQ(desk.Row(), "あ‸う");
+  desk.Press(u"{End}{Ctrl+V}");
+  EXPECT_EQ(desk.Row(), "あうい‸");
+  desk.Press(u"{Ctrl+A}{Ctrl+C}{Ctrl+V}{Ctrl+V}");
+  EXPECT_EQ(desk.Row(), "あういあうい‸");
+}
+
+TEST_F(HTMLfrmTest, AReadOnlyPageAnswersEditCommandsWithABeepAndAMessage) {
+  OpenPage(u"x\r\n");
+  desk.window->Control().SetLocked(true);
+  desk.services.beeps = 0;
+  desk.Press(u"<a");
+  EXPECT_EQ(ToUtf8(desk.window->Control().Text()), "x");
+  desk.window->Control().EM_SETSEL(0, 1);
+  desk.Run("Edit", 1);
+  EXPECT_EQ(desk.services.beeps, 1);
+  EXPECT_TRUE(desk.Pane(StatusPanes::kMessage).starts_with("読み取り専用で開かれています ["));
+}
+
+TEST_F(HTMLfrmTest, ClosingAChangedPageAsksAndCancelKeepsItOpen) {
+  OpenPage(u"x\r\n");
+  desk.Press(u"a");
+  desk.boxes.answers = {MessageAnswer::Cancel, MessageAnswer::Yes};
+  EXPECT_FALSE(desk.window->close());
+  EXPECT_EQ(desk.boxes.asked.at(0).text, u"ﾃﾞｰﾀが変更されています  上書き保存をしますか?\r\n\"page.htm\"");
+  EXPECT_EQ(desk.boxes.asked.at(0).caption, u"終了  Kestrile");
+  EXPECT_TRUE(desk.window->close());
+  EXPECT_EQ(desk.folder.Read("page.htm"), "ax\r\n");
+}
+
+TEST_F(HTMLfrmTest, NewAsksBeforeAChangedPageIsLeft) {
+  OpenPage(u"x\r\n");
+  desk.Press(u"a");
+  desk.boxes.answers = {MessageAnswer::Cancel};
+  desk.Press(u"{Ctrl+N}");
+  EXPECT_EQ(desk.Row(), "a‸x");
+  desk.boxes.answers = {MessageAnswer::No};
+  desk.Press(u"{Ctrl+N}");
+  EXPECT_EQ(desk.Row(), "‸");
+  EXPECT_TRUE(Title().starts_with("無題.htm - ")) << Title();
+  EXPECT_TRUE(desk.Pane(StatusPanes::kMessage).starts_with("新規作成 (.htm) ["));
+}
+
+TEST_F(HTMLfrmTest, OpenAndSaveAsGoThroughTheirDialogs) {
+  desk.folder.Write("other.txt", "abc\r\n");
+  desk.Open();
+  desk.dialogs.answers = {FileDialogAnswer{.fileName = desk.folder.Text(u"other.txt")},
+                          FileDialogAnswer{.fileName = desk.folder.Text(u"copy.txt")}};
+  desk.Press(u"{Ctrl+O}");
+  EXPECT_EQ(desk.Row(), "‸abc");
+  desk.Press(u"z{Ctrl+Shift+S}");
+  EXPECT_EQ(desk.folder.Read("copy.txt"), "zabc\r\n");
+  EXPECT_TRUE(Title().starts_with("copy.txt - ")) << Title();
+}
+
+TEST_F(HTMLfrmTest, ThePopupClosesWhenAnotherPageComes) {
+  OpenPage(u"x\r\n");
+  desk.Press(u"<");
+  EXPECT_TRUE(desk.window->Popup().Visible());
+  desk.boxes.answers = {MessageAnswer::No};
+  desk.Press(u"{Ctrl+N}");
+  EXPECT_FALSE(desk.window->Popup().Visible());
+}
+
+TEST_F(HTMLfrmTest, ACompositionOpensNoPopupAndItsKeysBelongToTheInputMethod) {
+  desk.Open();
+  desk.Press(u"<");
+  ASSERT_TRUE(desk.window->Popup().Visible());
+  QInputMethodEvent composing(QStringLiteral("にほん"), {});
+  QApplication::sendEvent(&desk.window->TextView(), &composing);
+  EXPECT_FALSE(desk.window->Popup().Visible());
+  desk.Press(u"{Enter}{Tab} {Esc}{Left}<");
+  EXPECT_EQ(desk.Row(), "<‸");
+  EXPECT_FALSE(desk.window->Popup().Visible());
+  desk.Press(u"{ime:日本}");
+  EXPECT_EQ(desk.Row(), "<日本‸");
+}
+
+TEST_F(HTMLfrmTest, TheWindowRestoresFontSchemeAndBars) {
+  desk.Set(u"Setting", u"FontSize", u"20");
+  desk.Set(u"Bar", u"ToolBarShow0", u"0");
+  HTMLfrm& window = desk.Open();
+  EXPECT_EQ(window.TextView().Style().font.pixelSize() > 20, true);
+  EXPECT_FALSE(window.findChild<ToolBar*>(QStringLiteral("ToolBar"))->isVisible());
+}
+
+TEST_F(HTMLfrmTest, ACloseRemembersTheRectangleOnlyInTheModeThatWantsIt) {
+  desk.Set(u"Setting", u"StartUpWindow", u"NAW");
+  desk.Open().resize(700, 500);
+  desk.window->close();
+  EXPECT_EQ(desk.common->GetINI(u"Kestri", u"Setting", u"HTMLfrmWidth", u""), u"10500");
+  EXPECT_EQ(desk.common->GetINI(u"Kestri", u"Setting", u"HTMLfrmHeight", u""), u"7500");
+  EXPECT_EQ(desk.common->GetINI(u"Kestri", u"Setting", u"NawPath", u""), desk.folder.Text());
+}
+
+TEST_F(HTMLfrmTest, DamagedSettingsAreNoticed) {
+  desk.Set(u"Setting", u"FontSize", u"large");
+  EXPECT_FALSE(LoadWindowSettings(*desk.common, desk.state).has_value());
+}
+
+TEST_F(HTMLfrmTest, MenusShowTheStatesOnlyWhileOpenSoThatNoShortcutIsLost) {
+  desk.Open();
+  QMenu* edit = nullptr;
+  for (QAction* top : desk.window->menuBar()->actions()) {
+    if (top->text() == QStringLiteral("編集(&E)")) edit = top->menu();
+  }
+  ASSERT_NE(edit, nullptr);
+  QAction* undo = desk.window->Commands().Action(*FindCommand("MenUNDO", 0));
+  Q_EMIT edit->aboutToShow();
+  EXPECT_FALSE(undo->isEnabled());
+  Q_EMIT edit->aboutToHide();
+  QApplication::processEvents();
+  EXPECT_TRUE(undo->isEnabled());
+  desk.Press(u"a{Ctrl+Z}");
+  EXPECT_EQ(desk.Row(), "‸");
+}
+
+TEST_F(HTMLfrmTest, PictureOfTheWindowWithItsPopup) {
+  desk.folder.Write("page.htm",
+                    code_page::Encode(u"<HTML>\r\n<BODY>\r\n<P>こんにちは。</P>\r\n</BODY>\r\n</HTML>\r\n"));
+  HTMLfrm& window = desk.Open();
+  window.OpenDocument(desk.folder.Text(u"page.htm"));
+  window.FinishLoading();
+  QApplication::processEvents();
+  QDir().mkpath(QStringLiteral(KESTRI_SOURCE_DIR "/build/screens"));
+  EXPECT_TRUE(window.grab().save(QStringLiteral(KESTRI_SOURCE_DIR "/build/screens/HTMLfrm.png")));
+}
+
+}  // namespace
+}  // namespace kestri
+
+KESTRI_WINDOW_TEST_MAIN()
