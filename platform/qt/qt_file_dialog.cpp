@@ -3,8 +3,11 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include "platform/qt/japanese_labels.hpp"
 #include "platform/qt/qt_text.hpp"
@@ -12,10 +15,31 @@
 namespace kestri {
 namespace {
 
+constexpr QSize kDialogSize(760, 520);  // room for names, sizes, kinds and dates
+
+// The kind column in Japanese, whatever the toolkit's own texts cover.
+class FileTypes : public QFileIconProvider {
+ public:
+  QString type(const QFileInfo& info) const override {
+    return info.isDir() ? QStringLiteral("フォルダ") : QFileIconProvider::type(info);
+  }
+};
+
+// Names take the room that is left; sizes, kinds and dates are never cut.
+void FitColumns(QFileDialog& dialog) {
+  auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (list == nullptr) return;
+  list->header()->setStretchLastSection(false);
+  list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setWindowTitle(ToQt(request.title));
+  dialog.resize(kDialogSize);
+  FitColumns(dialog);
   const QStringList filters = NameFilters(request.filter);
   dialog.setNameFilters(filters);
   const int row = qBound(1, request.filterIndex, qMax<int>(1, static_cast<int>(filters.size())));
@@ -71,7 +95,9 @@ QStringList NameFilters(const std::u16string& filter) {
 
 std::optional<FileDialogAnswer> QtFileDialog::AskOpen(const FileDialogRequest& request) {
   InstallJapaneseLabels();
+  FileTypes types;
   QFileDialog dialog(owner_);
+  dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
   Prepare(dialog, request);
@@ -83,7 +109,9 @@ std::optional<FileDialogAnswer> QtFileDialog::AskOpen(const FileDialogRequest& r
 
 std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& request) {
   InstallJapaneseLabels();
+  FileTypes types;
   QFileDialog dialog(owner_);
+  dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & kOverwritePrompt) == 0);
@@ -97,7 +125,11 @@ std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& r
 std::optional<std::u16string> QtFileDialog::AskFolder(const std::u16string& title,
                                                       const std::u16string& folder) {
   InstallJapaneseLabels();
+  FileTypes types;
   QFileDialog dialog(owner_, ToQt(title), ToQtPath(folder));
+  dialog.setIconProvider(&types);
+  dialog.resize(kDialogSize);
+  FitColumns(dialog);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QLocale>
 
 namespace kestri {
 
@@ -11,6 +12,7 @@ void PrepareEnvironment() {
 }
 
 void PrepareLook() {
+  QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan));
   QApplication::setStyle(QStringLiteral("Fusion"));
   const QString gothic = QStringLiteral("IPAGothic");
   const QString proportional = QStringLiteral("Monapo");

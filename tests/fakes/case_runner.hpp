@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -30,6 +31,8 @@ struct FolderCase {
   std::vector<std::pair<std::string, std::u16string>> settings;
   std::vector<std::string> messages;
   std::optional<std::u16string> dictionaries;
+
+  friend void PrintTo(const FolderCase& folderCase, std::ostream* out) { *out << folderCase.name; }
 };
 
 namespace case_files {
