@@ -17,7 +17,7 @@
 #include "shell/forms/HTMLfrm.hpp"
 #include "shell/startup/class_main.hpp"
 #include "shell/startup/command_line.hpp"
-#include "shell/startup/toolkit_setup.hpp"
+#include "shell/startup/forms/toolkit_setup.hpp"
 
 namespace kestri {
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/startup/toolkit_setup.hpp"
+#include "shell/startup/forms/toolkit_setup.hpp"
 
 #include <QApplication>
 #include <QFont>
