@@ -91,6 +91,37 @@ class Display {
     }
   }
 
+  // The first painting of a window other than the given one; its time since start is left in milliseconds.
+  bool AwaitOtherWindow(xcb_window_t window, Clock::time_point start, double& milliseconds) {
+    while (const auto painted = NextPainting(20000)) {
+      milliseconds = MillisecondsSince(start);
+      if (painted->window != window) return true;
+    }
+    return false;
+  }
+
+  // The first painting of the window after its title holds the words.
+  bool AwaitTitled(xcb_window_t window, const std::string& words, Clock::time_point start,
+                   double& milliseconds) {
+    while (const auto painted = NextPainting(20000)) {
+      milliseconds = MillisecondsSince(start);
+      if (painted->window == window && TitleOf(window).find(words) != std::string::npos) return true;
+    }
+    return false;
+  }
+
+  std::string TitleOf(xcb_window_t window) {
+    xcb_get_property_reply_t* reply = xcb_get_property_reply(
+        connection_,
+        xcb_get_property(connection_, 0, window, XCB_ATOM_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY, 0, 256),
+        nullptr);
+    if (reply == nullptr) return {};
+    const std::string title(static_cast<const char*>(xcb_get_property_value(reply)),
+                            static_cast<std::size_t>(xcb_get_property_value_length(reply)));
+    std::free(reply);
+    return title;
+  }
+
   void Press(xcb_keysym_t key) { Tap(key); }
   void PressWith(xcb_keysym_t modifier, xcb_keysym_t key) {
     Fake(XCB_KEY_PRESS, modifier);
@@ -160,20 +191,12 @@ class Display {
 };
 
 struct Usage {
-  double cpuMilliseconds = 0;
   double residentMegabytes = 0;
   double privateMegabytes = 0;
 };
 
 Usage UsageOf(pid_t process) {
   Usage usage;
-  std::ifstream stat("/proc/" + std::to_string(process) + "/stat");
-  std::string text((std::istreambuf_iterator<char>(stat)), {});
-  std::istringstream fields(text.substr(text.rfind(')') + 2));
-  std::string field;
-  for (int i = 3; i <= 15 && fields >> field; ++i) {
-    if (i >= 14) usage.cpuMilliseconds += std::stod(field) * 1000 / static_cast<double>(sysconf(_SC_CLK_TCK));
-  }
   std::ifstream rollup("/proc/" + std::to_string(process) + "/smaps_rollup");
   for (std::string line; std::getline(rollup, line);) {
     std::istringstream words(line);
@@ -196,7 +219,7 @@ double CpuMilliseconds(pid_t process) {
 
 class Editor {
  public:
-  Editor(const std::string& program, const std::vector<std::string>& arguments) : started_(Clock::now()) {
+  Editor(const std::string& program, const std::vector<std::string>& arguments) {
     process_ = fork();
     if (process_ == 0) {
       std::vector<char*> argv{const_cast<char*>(program.c_str())};
@@ -214,11 +237,9 @@ class Editor {
   Editor& operator=(const Editor&) = delete;
 
   pid_t Process() const { return process_; }
-  double Age() const { return MillisecondsSince(started_); }
 
  private:
   pid_t process_ = -1;
-  Clock::time_point started_;
 };
 
 double Median(std::vector<double> values) {
@@ -254,23 +275,26 @@ bool Opened(Display& display, const std::string& file) {
   return true;
 }
 
+// Milliseconds of the start without the time that the question about the size waits for its answer.
 int Start(const std::string& program, const std::vector<std::string>& arguments) {
-  Display display;
-  Editor editor(program, arguments);
   const bool asked = !arguments.empty() && SizeOf(arguments[0]) > kUnaskedBytes;
-  if (!display.NextPainting(20000)) return 1;
-  double wall = editor.Age();
-  double cpu = CpuMilliseconds(editor.Process());
+  Display display;
+  const auto started = Clock::now();
+  Editor editor(program, arguments);
+  const auto first = display.NextPainting(20000);
+  if (!first) return 1;
+  double wall = MillisecondsSince(started);
   if (asked) {
-    // The time during which the question waits for its answer does not count.
-    while (display.NextPainting(kQuiet)) wall = editor.Age();
+    if (!display.AwaitOtherWindow(first->window, started, wall)) return 1;
+    display.Drain(kQuiet);
+    const std::string name = arguments[0].substr(arguments[0].rfind('/') + 1);
     const auto answered = Clock::now();
+    double rest = 0;
     display.PressWith(kAlt, 'y');
-    double last = 0;
-    while (display.NextPainting(kQuiet)) last = MillisecondsSince(answered);
-    wall += last;
-    cpu = CpuMilliseconds(editor.Process());
+    if (!display.AwaitTitled(first->window, name, answered, rest)) return 1;
+    wall += rest;
   }
+  const double cpu = CpuMilliseconds(editor.Process());
   const Usage usage = UsageOf(editor.Process());
   std::printf("%.1f %.1f %.1f %.1f\n", wall, cpu, usage.residentMegabytes, usage.privateMegabytes);
   return 0;

@@ -149,6 +149,7 @@ QRect HTMLfrm::ScreenArea() const {
 }
 
 void HTMLfrm::FinishLoading() {
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrile.svg")));
   actions_->AddIcons();
   toolBar_->AddIcons();
   CountStart(services_.common);
@@ -243,13 +244,8 @@ void HTMLfrm::SetCaption(std::u16string_view caption) {
   setWindowTitle(ToQt(caption));
 }
 
-void HTMLfrm::SetWindowIcon(std::u16string_view iconName) {
-  if (iconName.empty()) {
-    setWindowIcon(QApplication::windowIcon());
-  } else {
-    setWindowIcon(QIcon::fromTheme(ToQt(iconName), QApplication::windowIcon()));
-  }
-}
+// Without an icon of its own the window shows the program's.
+void HTMLfrm::SetWindowIcon(std::u16string_view iconName) { setWindowIcon(QIcon::fromTheme(ToQt(iconName))); }
 
 void HTMLfrm::HTMLToolsEnable(bool) {
   toolBar_->RefreshStates();

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# Prints the whole-process figures of the staged program, medians of several runs on a display of its own:
+#   bench/figures.sh [PROGRAM]
+# Build first: cmake --build --preset release --target benchmarks
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+program=${1:-$root/build/Kestrile/Kestri}
+tool=$root/build/release/bench/figures
+work=$(mktemp -d)
+trap 'kill "$display" 2>/dev/null || true; rm -rf "$work"' EXIT
+
+export HOME=$work XDG_STATE_HOME=$work XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
+chmod 700 "$work"
+exec {pipe}<> <(:)
+Xvfb -displayfd "$pipe" -screen 0 1280x900x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+display=$!
+read -r -t 20 number <&"$pipe"
+export DISPLAY=":$number"
+
+page() { # bytes, path
+  local line='<P class="note">駅から川沿いの道を歩きました。桜はまだ三分咲きです。<A href="album.html">album</A></P>'
+  yes "$line"$'\r' | iconv -t cp932 | head -c "$1" >"$2" || true
+}
+page 2000 "$work/small.htm"
+page 10000000 "$work/10.htm"
+page 100000000 "$work/100.htm"
+
+# Median of each column over seven runs.
+median() {
+  local i
+  for i in 1 2 3 4 5 6 7; do "$@"; done | awk '
+    { for (c = 1; c <= NF; c++) v[c, NR] = $c; columns = NF }
+    END {
+      for (c = 1; c <= columns; c++) {
+        for (i = 1; i <= NR; i++) for (j = i + 1; j <= NR; j++)
+          if (v[c, j] + 0 < v[c, i] + 0) { t = v[c, i]; v[c, i] = v[c, j]; v[c, j] = t }
+        printf "%s ", v[c, int((NR + 1) / 2)]
+      }
+      print ""
+    }'
+}
+
+report() { # words, figures...
+  local words=$1
+  shift
+  printf '%-44s %s\n' "$words" "$("$@")"
+}
+
+echo 'wall ms, CPU ms, resident MB, private MB'
+report 'start, empty page' median "$tool" "$program" start
+report 'open 10 MB' median "$tool" "$program" start "$work/10.htm"
+report 'open 100 MB' median "$tool" "$program" start "$work/100.htm"
+echo 'median ms, worst ms'
+report 'one key to painted, small page' "$tool" "$program" key "$work/small.htm"
+report 'one key to painted, middle of 100 MB' "$tool" "$program" key "$work/100.htm"
+echo 'first ms, later ms'
+report '"<" to popup painted' "$tool" "$program" popup "$work/small.htm"
+report '"<" to popup painted, 10 MB page' "$tool" "$program" popup "$work/10.htm"
+echo 'ms'
+report 'save 100 MB' "$tool" "$program" save "$work/100.htm"
