@@ -95,6 +95,7 @@ class HTMLfrm : public QMainWindow,
   void ShowToolBar(bool visible) override;
   bool StatusBarVisible() const override { return !panes_->isHidden(); }
   void ShowStatusBar(bool visible) override;
+  void ShowGuideLines(bool visible) override { view_->SetGuideLines(visible); }
   void ShowVersion() override;
 
   // CaretPlace

@@ -16,15 +16,9 @@ int IndexOf(const CommandRow& row) {
   return static_cast<int>(&row - CommandRows().data());
 }
 
-// Only while their menu is open do items show whether they may run: a shortcut must never meet an item that
-// was left disabled by an earlier state of the text.
-void ShowStates(const QMenu& menu, const CommandActions& actions, bool open) {
-  for (QAction* action : menu.actions()) {
-    const QVariant index = action->property(kRowProperty);
-    if (!index.isValid()) continue;
-    const CommandRow& row = CommandRows()[static_cast<std::size_t>(index.toInt())];
-    action->setEnabled(!open || actions.MayRun(row));
-  }
+const CommandRow* RowOf(const QAction& action) {
+  const QVariant index = action.property(kRowProperty);
+  return index.isValid() ? &CommandRows()[static_cast<std::size_t>(index.toInt())] : nullptr;
 }
 
 }  // namespace
@@ -38,6 +32,7 @@ CommandActions::CommandActions(EditorCommands& commands, Tell tell, QObject* par
 QAction* CommandActions::MakeAction(const CommandRow& row) {
   auto* action = new QAction(ToQt(row.caption), this);
   action->setProperty(kRowProperty, IndexOf(row));
+  action->setCheckable(row.checked != nullptr);
   action->setObjectName(QString::fromLatin1(row.array.data(), static_cast<qsizetype>(row.array.size())) +
                         QString::number(row.index));
   if (!row.key.empty()) {
@@ -47,6 +42,20 @@ QAction* CommandActions::MakeAction(const CommandRow& row) {
   connect(action, &QAction::triggered, this, [this, &row] { Run(row); });
   connect(action, &QAction::hovered, this, [this, &row] { tell_.hint(ToQt(row.hint)); });
   return action;
+}
+
+// Only while their menu is open do items show whether they may run: a shortcut must never meet an item that
+// was left disabled by an earlier state of the text.
+void CommandActions::ShowStates(const QMenu& menu, MenuState state) const {
+  for (QAction* action : menu.actions()) {
+    const CommandRow* row = RowOf(*action);
+    if (row == nullptr) continue;
+    action->setEnabled(state == MenuState::Closed || MayRun(*row));
+    if (state == MenuState::Closed) continue;
+    if (row->checked != nullptr) action->setChecked(row->checked(commands_));
+    if (row->liveCaption != nullptr) action->setText(ToQt(row->liveCaption(commands_)));
+    if (row->shown != nullptr) action->setVisible(row->shown(commands_));
+  }
 }
 
 QAction* CommandActions::Action(const CommandRow& row) const {
@@ -87,10 +96,10 @@ void CommandActions::AddRow(QMenu& menu, const CommandRow& row) {
 }
 
 void CommandActions::FollowMenu(QMenu& menu) {
-  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ShowStates(menu, *this, true); });
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ShowStates(menu, MenuState::Open); });
   connect(&menu, &QMenu::aboutToHide, this, [this, &menu] {
     tell_.hint(QString());
-    QTimer::singleShot(0, &menu, [this, &menu] { ShowStates(menu, *this, false); });
+    QTimer::singleShot(0, &menu, [this, &menu] { ShowStates(menu, MenuState::Closed); });
   });
 }
 

@@ -35,6 +35,8 @@ class CommandActions : public QObject {
   QAction* MakeAction(const CommandRow& row);
   void AddRow(QMenu& menu, const CommandRow& row);
   void FollowMenu(QMenu& menu);
+  enum class MenuState { Open, Closed };
+  void ShowStates(const QMenu& menu, MenuState state) const;
 
   EditorCommands& commands_;
   Tell tell_;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace kestri {
@@ -22,6 +23,10 @@ struct CommandRow {
   std::string_view icon;        // freedesktop name, or "kestrile-..." for one of our own; empty for none
   bool (*enabled)(const EditorCommands&);
   void (*run)(EditorCommands&);
+  // Of items whose look follows the program's state; null: no check mark, the fixed caption, always shown.
+  bool (*checked)(const EditorCommands&) = nullptr;
+  std::u16string (*liveCaption)(const EditorCommands&) = nullptr;
+  bool (*shown)(const EditorCommands&) = nullptr;
   bool IsSeparator() const { return array.empty(); }
 };
 

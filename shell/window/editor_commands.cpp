@@ -61,6 +61,30 @@ void EditorCommands::OpenCurrentFolder() {
   around_.common.ExecuteShow(around_.state.currentFolder, 1, u"");
 }
 
+std::u16string EditorCommands::HistoryEntry(int index) const {
+  return around_.common.GetINI(around_.common.ExeName(), u"FileReg", u"FileReg" + FormatZeros(index, 2), u"");
+}
+
+std::u16string EditorCommands::HistoryCaption(int index) const {
+  const std::u16string path = HistoryEntry(index);
+  const std::u16string shown = path.empty() ? u"(なし)" : around_.common.CFile2(path);
+  return u"&" + ToText(index) + u" ： " + Replace(shown, u"&", u"&&");
+}
+
+bool EditorCommands::HistoryShown(int index) const {
+  return index == 0 || !HistoryEntry(index).empty();
+}
+
+void EditorCommands::OpenHistory(int index) {
+  if (!around_.document.ConfirmDiscard(u"開く")) return;
+  const std::u16string path = HistoryEntry(index);
+  around_.document.OpenDocument(path.empty() ? u"Empty!!" : path, ReadOnly::No);
+}
+
+void EditorCommands::ClearHistory() {
+  around_.document.History().Clear();
+}
+
 void EditorCommands::Exit() {
   around_.window.CloseWindow();
 }
@@ -116,8 +140,8 @@ void EditorCommands::ToggleStatusBar() {
 }
 
 void EditorCommands::ToggleGuideLines() {
-  around_.state.gLine = around_.state.gLine == 0 ? 1 : 0;
-  around_.text.RefreshDecor();
+  around_.state.gLine = GuideLinesShown() ? 0 : 1;
+  around_.window.ShowGuideLines(GuideLinesShown());
 }
 
 void EditorCommands::OpenHelp(std::u16string_view fileName) {

@@ -24,6 +24,7 @@ class EditorWindow {
   virtual void ShowToolBar(bool visible) = 0;
   virtual bool StatusBarVisible() const = 0;
   virtual void ShowStatusBar(bool visible) = 0;
+  virtual void ShowGuideLines(bool visible) = 0;
   virtual void ShowVersion() = 0;
 };
 
@@ -53,11 +54,19 @@ class EditorCommands {
   bool HasText() const;
   bool TagToolsOn() const;  // HTML documents, or all when the setting says so
 
+  bool ToolBarShown() const { return around_.window.ToolBarVisible(); }
+  bool StatusBarShown() const { return around_.window.StatusBarVisible(); }
+  bool GuideLinesShown() const { return around_.state.gLine != 0; }
+
   void New(std::int16_t kind);
   void Open();
   void Save();
   void SaveAs();
   void OpenCurrentFolder();
+  std::u16string HistoryCaption(int index) const;
+  bool HistoryShown(int index) const;  // the first place always, the others when in use
+  void OpenHistory(int index);
+  void ClearHistory();
   void Exit();
 
   void Undo();
@@ -80,6 +89,7 @@ class EditorCommands {
 
  private:
   void PressIntoText(char16_t keyAscii);
+  std::u16string HistoryEntry(int index) const;
 
   Surroundings around_;
 };

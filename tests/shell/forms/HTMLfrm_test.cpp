@@ -198,6 +198,45 @@ TEST_F(HTMLfrmTest, MenusShowTheStatesOnlyWhileOpenSoThatNoShortcutIsLost) {
   EXPECT_EQ(desk.Row(), "‸");
 }
 
+TEST_F(HTMLfrmTest, TheHistoryMenuShowsTheFilesInUseAndOpensThem) {
+  OpenPage(u"x\r\n");
+  desk.folder.Write("b.txt", "b\r\n");
+  desk.window->OpenDocument(desk.folder.Text(u"b.txt"));
+  const CommandRow& newest = *FindCommand("OpenFileReg", 0);
+  QAction* action = desk.window->Commands().Action(newest);
+  QMenu* menu = qobject_cast<QMenu*>(action->associatedObjects().constFirst());
+  Q_EMIT menu->aboutToShow();
+  EXPECT_TRUE(action->text().endsWith(QStringLiteral("b.txt"))) << action->text().toStdString();
+  EXPECT_TRUE(action->text().startsWith(QStringLiteral("&0 ： ")));
+  EXPECT_TRUE(desk.window->Commands().Action(*FindCommand("OpenFileReg", 1))->isVisible());
+  EXPECT_FALSE(desk.window->Commands().Action(*FindCommand("OpenFileReg", 2))->isVisible());
+  desk.Run("OpenFileReg", 1);
+  EXPECT_EQ(desk.Row(), "‸x");
+  desk.Run("OpenFileReg", 23);
+  Q_EMIT menu->aboutToShow();
+  EXPECT_EQ(action->text(), QStringLiteral("&0 ： (なし)"));
+}
+
+TEST_F(HTMLfrmTest, AnEmptyPlaceOfTheHistoryTellsThatThereIsNothingToOpen) {
+  desk.Open();
+  desk.Run("OpenFileReg", 0);
+  ASSERT_EQ(desk.boxes.asked.size(), 1u);
+  EXPECT_EQ(desk.boxes.asked[0].caption, u"FileName = NULL  Kestrile");
+}
+
+TEST_F(HTMLfrmTest, TheViewMenuSwitchesBarsAndGuideLinesAndShowsTheirMarks) {
+  desk.Open();
+  ToolBar* bar = desk.window->findChild<ToolBar*>(QStringLiteral("ToolBar"));
+  desk.Run("MenV", 0);
+  EXPECT_FALSE(bar->isVisible());
+  EXPECT_EQ(desk.common->GetINI(u"Kestri", u"Bar", u"ToolBarShow0", u""), u"0");
+  desk.Run("MenV", 0);
+  EXPECT_TRUE(bar->isVisible());
+  desk.Run("MenV", 2);
+  EXPECT_EQ(desk.state.gLine, 1);
+  EXPECT_TRUE(FindCommand("MenV", 2)->checked != nullptr);
+}
+
 TEST_F(HTMLfrmTest, PictureOfTheWindowWithItsPopup) {
   desk.folder.Write("page.htm",
                     code_page::Encode(u"<HTML>\r\n<BODY>\r\n<P>こんにちは。</P>\r\n</BODY>\r\n</HTML>\r\n"));

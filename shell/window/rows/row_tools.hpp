@@ -1,0 +1,26 @@
+// What the tables of command rows are written with.
+#pragma once
+
+#include <array>
+
+#include "shell/window/commands.hpp"
+#include "shell/window/editor_commands.hpp"
+
+namespace kestri::rows {
+
+using C = EditorCommands;
+
+template <bool (C::*When)() const>
+bool Ask(const C& commands) {
+  return (commands.*When)();
+}
+inline constexpr auto kAlways = Ask<&C::Always>;
+inline constexpr auto kNever = Ask<&C::Never>;
+inline constexpr auto kWritable = Ask<&C::Writable>;
+inline constexpr auto kTagTools = Ask<&C::TagToolsOn>;
+
+constexpr CommandRow Separator(TopMenu menu, std::u16string_view submenu = u"") {
+  return {menu, submenu, "", 0, u"-", u"", "", "", kNever, nullptr};
+}
+
+}  // namespace kestri::rows
