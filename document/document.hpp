@@ -32,6 +32,7 @@ class Document {
   // Each of these tells the user what went wrong by itself. True when the text was loaded or stands on disk.
   bool OpenDocument(std::u16string_view path, ReadOnly readOnly);
   bool OpenFileDialog(std::u16string_view startFolder);  // empty: the current folder
+  std::optional<FileDialogAnswer> AskFileToOpen(std::u16string_view startFolder);  // the same dialog alone
   bool SaveAsDialog(std::u16string_view startFolder);
   bool OverwriteSave();
   bool WriteDocument(std::u16string_view path);

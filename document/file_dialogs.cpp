@@ -22,7 +22,7 @@ std::u16string Document::StartFolder(std::u16string_view folder) const {
   return common_.AppPath2(start);
 }
 
-bool Document::OpenFileDialog(std::u16string_view startFolder) {
+std::optional<FileDialogAnswer> Document::AskFileToOpen(std::u16string_view startFolder) {
   const std::vector<FilterRow> rows = OpenFilterRows(common_);
   const auto answer = dialogs_.AskOpen({.title = u"ﾌｧｲﾙを開く",
                                         .filter = FilterText(rows),
@@ -30,9 +30,13 @@ bool Document::OpenFileDialog(std::u16string_view startFolder) {
                                         .folder = StartFolder(startFolder),
                                         .fileName = u"",
                                         .flags = kPathMustExist | kFileMustExist});
-  if (!answer) return false;
-  common_.SetINI(common_.ExeName(), u"Setting", u"ExtIndexNo", ToText(answer->filterIndex));
-  return OpenDocument(answer->fileName, answer->readOnly ? ReadOnly::Yes : ReadOnly::No);
+  if (answer) common_.SetINI(common_.ExeName(), u"Setting", u"ExtIndexNo", ToText(answer->filterIndex));
+  return answer;
+}
+
+bool Document::OpenFileDialog(std::u16string_view startFolder) {
+  const auto answer = AskFileToOpen(startFolder);
+  return answer && OpenDocument(answer->fileName, answer->readOnly ? ReadOnly::Yes : ReadOnly::No);
 }
 
 bool Document::SaveAsDialog(std::u16string_view startFolder) {

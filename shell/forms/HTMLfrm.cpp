@@ -237,7 +237,9 @@ void HTMLfrm::OpenDroppedFile(std::u16string_view path) {
 }
 
 void HTMLfrm::OpenInNewInstance(std::u16string_view path) {
-  QProcess::startDetached(QCoreApplication::applicationFilePath(), {ToQtPath(path)});
+  QStringList arguments;
+  if (!path.empty()) arguments << ToQtPath(path);
+  QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
 }
 
 void HTMLfrm::SetCaption(std::u16string_view caption) {

@@ -91,6 +91,7 @@ class HTMLfrm : public QMainWindow,
 
   // EditorWindow
   void CloseWindow() override { close(); }
+  void StartInstance(std::u16string_view path) override { OpenInNewInstance(path); }
   bool ToolBarVisible() const override { return !toolBar_->isHidden(); }
   void ShowToolBar(bool visible) override;
   bool StatusBarVisible() const override { return !panes_->isHidden(); }

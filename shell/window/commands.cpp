@@ -20,14 +20,23 @@ constexpr auto Joined(const std::array<CommandRow, Sizes>&... parts) {
   return all;
 }
 
-constexpr auto kRows =
-    Joined(rows::kFileStartRows, rows::kHistoryRows, rows::kHistoryEndRows, rows::kFileEndRows,
-           rows::kEditRows, rows::kHtmlRows, rows::kViewRows, rows::kHelpRows);
+constexpr auto kRows = Joined(rows::kFileStartRows, rows::kNewRows, rows::kFileOpenRows, rows::kHistoryRows,
+                              rows::kHistoryEndRows, rows::kFileEndRows, rows::kEditRows, rows::kHtmlRows,
+                              rows::kViewRows, rows::kHelpRows);
 
 constexpr std::array kMenus = {TopMenu::File, TopMenu::Edit, TopMenu::Html, TopMenu::View, TopMenu::Help};
 
+constexpr std::array kNewEntries = {
+    ToolRow::Entry{"New1", u"白紙", "MenFileMs", 0},
+    ToolRow::Entry{"New2", u"TEXT型新規作成", "MenFileMs", 1},
+    ToolRow::Entry{"New3", u"HTML型新規作成", "MenFileMs", 2},
+    ToolRow::Entry{"New4", u"AsciiArt下書き", "MenFileMs", 14},
+    ToolRow::Entry{"New6", u"-", "", 0},
+    ToolRow::Entry{"New7", u"白紙の新しいｳｨﾝﾄﾞｳを開く", "MenFileOpenEx", 0},
+};
 constexpr std::array kOpenEntries = {
     ToolRow::Entry{"Open1", u"開く...", "MenFileM", 1},
+    ToolRow::Entry{"Open3", u"新しいｳｨﾝﾄﾞｳで開く...", "MenFileOpenEx", 1},
     ToolRow::Entry{"Open4", u"-", "", 0},
     ToolRow::Entry{"Open5", u"ｶﾚﾝﾄﾌｫﾙﾀﾞを開く", "MenFileM", 6},
 };
@@ -42,7 +51,7 @@ constexpr std::array kToolEntries = {
 };
 
 constexpr std::array kToolRows = {
-    ToolRow{"New", u"新規作成", "MenFileM", 0, {}},
+    ToolRow{"New", u"新規作成", "MenFileM", 0, kNewEntries},
     ToolRow{"Open", u"開く", "MenFileM", 1, kOpenEntries},
     ToolRow{"ReSave", u"上書き保存", "MenFileM", 3, kSaveEntries},
     ToolRow{"", u"-", "", 0, {}},

@@ -57,6 +57,15 @@ void EditorCommands::SaveAs() {
   around_.document.SaveAsDialog(u"");
 }
 
+void EditorCommands::OpenBlankWindow() {
+  around_.window.StartInstance(u"");
+}
+
+void EditorCommands::OpenInNewWindow() {
+  const auto answer = around_.document.AskFileToOpen(u"");
+  if (answer) around_.window.StartInstance(answer->fileName);
+}
+
 void EditorCommands::OpenCurrentFolder() {
   around_.common.ExecuteShow(around_.state.currentFolder, 1, u"");
 }

@@ -20,6 +20,7 @@ class EditorWindow {
  public:
   virtual ~EditorWindow() = default;
   virtual void CloseWindow() = 0;
+  virtual void StartInstance(std::u16string_view path) = 0;  // another process; empty: a new document
   virtual bool ToolBarVisible() const = 0;
   virtual void ShowToolBar(bool visible) = 0;
   virtual bool StatusBarVisible() const = 0;
@@ -62,6 +63,8 @@ class EditorCommands {
   void Open();
   void Save();
   void SaveAs();
+  void OpenBlankWindow();
+  void OpenInNewWindow();
   void OpenCurrentFolder();
   std::u16string HistoryCaption(int index) const;
   bool HistoryShown(int index) const;  // the first place always, the others when in use

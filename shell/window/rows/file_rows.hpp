@@ -7,6 +7,40 @@
 
 namespace kestri::rows {
 
+inline constexpr std::u16string_view kNewMenu = u"種類を選んで新規作成(&K)";
+
+template <std::int16_t Kind>
+constexpr CommandRow NewRow(std::u16string_view caption) {
+  return {TopMenu::File,
+          kNewMenu,
+          "MenFileMs",
+          Kind,
+          caption,
+          u"この種類の新しい文書を作ります",
+          "",
+          "document-new",
+          kAlways,
+          [](C& c) { c.New(Kind); }};
+}
+
+inline constexpr std::array kNewRows = {
+    NewRow<0>(u"白紙(&0)"),
+    NewRow<1>(u"ﾃｷｽﾄ型 (*.txt)(&1)"),
+    NewRow<2>(u"HTML型 (*.htm)(&2)"),
+    NewRow<3>(u"HTML型 詳細設定済み (*.htm)(&3)"),
+    NewRow<4>(u"CSS型 (*.css)(&4)"),
+    NewRow<5>(u"Cｿｰｽ型 (*.c)(&5)"),
+    NewRow<6>(u"Cﾍｯﾀﾞｰ型 (*.h)(&6)"),
+    NewRow<7>(u"ﾊﾞｯﾁ型 (*.bat)(&7)"),
+    NewRow<8>(u"INI型 (*.ini)(&8)"),
+    NewRow<9>(u"JAVA型 (*.java)(&9)"),
+    NewRow<10>(u"クリップファイル型 (*.clped)(&C)"),
+    NewRow<12>(u"VBScript型 (*.vbs)(&V)"),
+    NewRow<13>(u"ReadMe型 (*.txt)(&R)"),
+    NewRow<14>(u"AsciiArt下書き型 (*.aat)(&A)"),
+    NewRow<11>(u"ﾕｰｻﾞｰ定義型...(&U)"),
+};
+
 inline constexpr std::u16string_view kHistoryMenu = u"最近使用したﾌｧｲﾙを開く(&R)";
 
 template <int Index>
@@ -43,8 +77,17 @@ inline constexpr std::array kHistoryEndRows = {
 inline constexpr std::array kFileStartRows = {
     CommandRow{TopMenu::File, u"", "MenFileM", 0, u"新規作成(&N)", u"HTML型の新しい文書を作ります", "Ctrl+N",
                "document-new", kAlways, [](C& c) { c.New(2); }},
+};
+
+inline constexpr std::array kFileOpenRows = {
+    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 0, u"白紙の新しいｳｨﾝﾄﾞｳを開く(&W)",
+               u"もう1つ Kestrile を起動します", "Ctrl+Shift+N", "window-new", kAlways,
+               [](C& c) { c.OpenBlankWindow(); }},
+    Separator(TopMenu::File),
     CommandRow{TopMenu::File, u"", "MenFileM", 1, u"開く(&O)...", u"ﾌｧｲﾙを選んで開きます", "Ctrl+O",
                "document-open", kAlways, [](C& c) { c.Open(); }},
+    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 1, u"新しいｳｨﾝﾄﾞｳで開く(&E)...",
+               u"ﾌｧｲﾙを選んで別のｳｨﾝﾄﾞｳで開きます", "", "", kAlways, [](C& c) { c.OpenInNewWindow(); }},
     Separator(TopMenu::File),
     CommandRow{TopMenu::File, u"", "MenFileM", 3, u"上書き保存(&S)", u"現在のﾌｧｲﾙに上書きします", "Ctrl+S",
                "document-save", kAlways, [](C& c) { c.Save(); }},
