@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QScrollBar>
 
+#include "tests/fakes/screens.hpp"
 #include "tests/ui/edit_view_desk.hpp"
 
 namespace kestri {
@@ -177,8 +178,8 @@ TEST(EditViewDecor, WhatWasMovedLooksAsIfItHadBeenPainted) {
       EXPECT_TRUE(screen.convertToFormat(QImage::Format_RGB32) == fresh.convertToFormat(QImage::Format_RGB32))
           << "after " << ToUtf8(script) << (guides ? " with guides" : "");
       if (testing::Test::HasFailure()) {
-        screen.save("screens/moved_screen.png");
-        fresh.save("screens/moved_fresh.png");
+        fakes::SavePicture(screen, QStringLiteral("EditView_moved"));
+        fakes::SavePicture(fresh, QStringLiteral("EditView_moved_fresh"));
         return;
       }
     }

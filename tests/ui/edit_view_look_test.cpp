@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QPainter>
 
+#include "tests/fakes/screens.hpp"
 #include "tests/ui/edit_view_desk.hpp"
 
 namespace kestri {
@@ -14,9 +15,7 @@ using fakes::EditViewDesk;
 
 QImage Picture(EditViewDesk& desk, const char* name) {
   desk.Settle();
-  QDir().mkpath("screens");
-  const QImage picture = desk.view.grab().toImage();
-  picture.save(QStringLiteral("screens/edit_view_%1.png").arg(QLatin1String(name)));
+  fakes::SavePicture(desk.view.grab().toImage(), QStringLiteral("EditView_") + QLatin1String(name));
   return desk.view.viewport()->grab().toImage();
 }
 
@@ -122,8 +121,7 @@ TEST(EditViewLook, AtTwiceTheResolution) {
   QImage picture(desk.view.size() * 2, QImage::Format_RGB32);
   picture.setDevicePixelRatio(2);
   desk.view.render(&picture);
-  QDir().mkpath("screens");
-  picture.save("screens/edit_view_double.png");
+  fakes::SavePicture(picture, QStringLiteral("EditView_double"));
   EXPECT_EQ(picture.width(), 1280);
 }
 

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QMenuBar>
 
 #include "shell/common/code_page.hpp"
+#include "tests/fakes/screens.hpp"
 #include "tests/shell/forms/editor_desk.hpp"
 
 namespace kestri {
@@ -244,8 +244,7 @@ TEST_F(HTMLfrmTest, PictureOfTheWindowWithItsPopup) {
   window.OpenDocument(desk.folder.Text(u"page.htm"));
   window.FinishLoading();
   QApplication::processEvents();
-  QDir().mkpath(QStringLiteral(KESTRI_SOURCE_DIR "/build/screens"));
-  EXPECT_TRUE(window.grab().save(QStringLiteral(KESTRI_SOURCE_DIR "/build/screens/HTMLfrm.png")));
+  fakes::SavePicture(window.grab().toImage(), QStringLiteral("HTMLfrm"));
 }
 
 }  // namespace

@@ -18,6 +18,7 @@
 #include "tags/forms/tip_line.hpp"
 #include "tags/forms/view_caret_place.hpp"
 #include "tests/fakes/completion_world.hpp"
+#include "tests/fakes/screens.hpp"
 #include "ui/edit_view.hpp"
 
 namespace kestri {
@@ -371,10 +372,7 @@ TEST(CandidateColours, AreTheTablesOwnOnALightBaseAndReadableOnADarkOne) {
 
 void Picture(PopupDesk& desk, const char* name) {
   QApplication::processEvents();
-  QDir().mkpath(QStringLiteral("screens"));
-  const QPixmap picture = desk.popup_.grab();
-  EXPECT_FALSE(picture.isNull());
-  EXPECT_TRUE(picture.save(QStringLiteral("screens/InToTAGFrm_%1.png").arg(QLatin1String(name))));
+  fakes::SavePicture(desk.popup_.grab().toImage(), QStringLiteral("InToTAGFrm_") + QLatin1String(name));
 }
 
 void FillForPictures(PopupDesk& desk) {
