@@ -10,13 +10,29 @@ namespace {
 constexpr std::string_view kHandles = "HWND";
 constexpr std::string_view kFiles = "OPENFILE";
 
-std::string KeyOf(std::int32_t number, std::u16string_view suffix) {
-  return code_page::Encode(FormatZeros(number, 3).append(suffix));
+std::string HandleKey(std::int32_t number) {
+  return code_page::Encode(FormatZeros(number, 3) + u"HWND");
+}
+
+std::string FileKey(std::int32_t number) {
+  return code_page::Encode(FormatZeros(number, 3) + u"FILE");
+}
+
+std::int64_t ToHandle(std::string_view value) {
+  return ToLong(code_page::Decode(value)).value_or(0);
 }
 
 std::int64_t HandleOf(const ProfileContent& content, std::int32_t number) {
-  const std::string value = content.Get(kHandles, KeyOf(number, u"HWND")).value_or("0");
-  return ToLong(code_page::Decode(value)).value_or(0);
+  return ToHandle(content.Get(kHandles, HandleKey(number)).value_or("0"));
+}
+
+// Entries of a handle were left by a process that crashed and whose id another one now has.
+void ForgetHandle(ProfileContent& content, std::int64_t handle) {
+  std::vector<std::string> keys;
+  for (const auto& [key, value] : content.Section(kHandles)) {
+    if (ToHandle(value) == handle) keys.emplace_back(key);
+  }
+  for (const std::string& key : keys) content.DeleteKey(kHandles, key);
 }
 
 }  // namespace
@@ -33,27 +49,41 @@ std::u16string InstanceLog::Path() const {
   return common_.Join(common_.GetSystemDirectory(36), u"Kestri_TEMP_FileLog.INI");
 }
 
-std::int32_t InstanceLog::AssignWindowNumber(const CaptionOfHandle& captionOf) {
-  const ProfileContent content = common_.Profiles().Load(Path());
-  const auto taken = [&](std::int32_t number) {
-    const std::int64_t handle = HandleOf(content, number);
-    if (handle == 0) return false;
-    const auto caption = captionOf(handle);
-    return caption && InStr(*caption, CaptionTail(number)) > 0;
-  };
+std::int64_t InstanceLog::OwnHandle() const {
+  return common_.PortSet().environment.ProcessId();
+}
+
+std::int32_t InstanceLog::AssignWindowNumber(const IsLiving& isLiving) {
   std::int32_t number = 1;
-  while (taken(number)) ++number;
+  common_.Profiles().Update(Path(), [&](ProfileContent& content) {
+    ForgetHandle(content, OwnHandle());
+    while (HandleOf(content, number) != 0 && isLiving(HandleOf(content, number))) ++number;
+    content.DeleteKey(kFiles, FileKey(number));
+    content.Set(kHandles, HandleKey(number), std::to_string(OwnHandle()));
+  });
   state_.windowNumber = number;
   state_.captionTail = CaptionTail(number);
   return number;
 }
 
+std::vector<InstanceLog::Entry> InstanceLog::Entries(std::int32_t last) const {
+  const ProfileContent content = common_.Profiles().Load(Path());
+  std::vector<Entry> entries;
+  for (std::int32_t number = 1; number <= last; ++number) {
+    const std::int64_t handle = HandleOf(content, number);
+    if (handle == 0) continue;
+    const auto file = content.Get(kFiles, FileKey(number));
+    entries.push_back(
+        {number, handle, file ? code_page::Decode(*file) : u"Win No #" + FormatZeros(number, 3)});
+  }
+  return entries;
+}
+
 void InstanceLog::Register(std::u16string_view path) const {
   const std::int32_t number = state_.windowNumber;
-  const std::u16string handle = ToText(common_.PortSet().environment.ProcessId());
   common_.Profiles().Update(Path(), [&](ProfileContent& content) {
-    content.Set(kFiles, KeyOf(number, u"FILE"), code_page::Encode(WithoutControls(path)));
-    content.Set(kHandles, KeyOf(number, u"HWND"), code_page::Encode(handle));
+    content.Set(kFiles, FileKey(number), code_page::Encode(WithoutControls(path)));
+    content.Set(kHandles, HandleKey(number), std::to_string(OwnHandle()));
   });
 }
 
@@ -63,8 +93,8 @@ void InstanceLog::Unregister(Others others) const {
     return;
   }
   common_.Profiles().Update(Path(), [&](ProfileContent& content) {
-    content.DeleteKey(kFiles, KeyOf(state_.windowNumber, u"FILE"));
-    content.DeleteKey(kHandles, KeyOf(state_.windowNumber, u"HWND"));
+    content.DeleteKey(kFiles, FileKey(state_.windowNumber));
+    content.DeleteKey(kHandles, HandleKey(state_.windowNumber));
   });
 }
 

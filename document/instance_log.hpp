@@ -3,10 +3,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "platform/instances.hpp"
 #include "shell/common/application_state.hpp"
 #include "shell/common/class_common.hpp"
 
@@ -17,13 +18,14 @@ std::u16string CaptionTail(std::int32_t windowNumber);
 
 class InstanceLog {
  public:
-  // Caption of the living window with this handle; nothing when there is none.
-  using CaptionOfHandle = std::function<std::optional<std::u16string>(std::int64_t handle)>;
+  using IsLiving = std::function<bool(std::int64_t handle)>;
 
   InstanceLog(const ClassCommon& common, ApplicationState& state) : common_(common), state_(state) {}
 
-  // The first number that no living window has; sets state.windowNumber and state.captionTail.
-  std::int32_t AssignWindowNumber(const CaptionOfHandle& captionOf);
+  // The first number that no living window has; sets state.windowNumber and state.captionTail. The number is
+  // recorded for this process under the same lock, so that instances starting together get different ones.
+  // This process must have appeared before, see Instances. isLiving must not wait.
+  std::int32_t AssignWindowNumber(const IsLiving& isLiving);
 
   // Records this window's handle and the path of its document. Control characters are written as blanks.
   void Register(std::u16string_view path) const;
@@ -32,11 +34,27 @@ class InstanceLog {
   enum class Others { Running, None };
   void Unregister(Others others) const;
 
+  // What stands in the log for the numbers 1 to last, dead entries included. A window without a document has
+  // "Win No #001" in place of its file.
+  struct Entry {
+    std::int32_t number = 0;
+    std::int64_t handle = 0;
+    std::u16string file;
+  };
+  std::vector<Entry> Entries(std::int32_t last) const;
+
   std::u16string Path() const;
 
  private:
+  std::int64_t OwnHandle() const;
+
   const ClassCommon& common_;
   ApplicationState& state_;
 };
+
+// How AssignWindowNumber asks the running processes.
+inline InstanceLog::IsLiving AmongInstances(Instances& instances) {
+  return [&instances](std::int64_t handle) { return instances.Living(handle); };
+}
 
 }  // namespace kestri

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QTreeView>
 
+#include "platform/qt/dialog_owner.hpp"
 #include "platform/qt/japanese_labels.hpp"
 #include "platform/qt/qt_text.hpp"
 
@@ -96,7 +97,7 @@ QStringList NameFilters(const std::u16string& filter) {
 std::optional<FileDialogAnswer> QtFileDialog::AskOpen(const FileDialogRequest& request) {
   InstallJapaneseLabels();
   FileTypes types;
-  QFileDialog dialog(owner_);
+  QFileDialog dialog(DialogOwner(owner_));
   dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -110,7 +111,7 @@ std::optional<FileDialogAnswer> QtFileDialog::AskOpen(const FileDialogRequest& r
 std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& request) {
   InstallJapaneseLabels();
   FileTypes types;
-  QFileDialog dialog(owner_);
+  QFileDialog dialog(DialogOwner(owner_));
   dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -126,7 +127,7 @@ std::optional<std::u16string> QtFileDialog::AskFolder(const std::u16string& titl
                                                       const std::u16string& folder) {
   InstallJapaneseLabels();
   FileTypes types;
-  QFileDialog dialog(owner_, ToQt(title), ToQtPath(folder));
+  QFileDialog dialog(DialogOwner(owner_), ToQt(title), ToQtPath(folder));
   dialog.setIconProvider(&types);
   dialog.resize(kDialogSize);
   FitColumns(dialog);

@@ -2,6 +2,7 @@
 
 #include <QInputDialog>
 
+#include "platform/qt/dialog_owner.hpp"
 #include "platform/qt/japanese_labels.hpp"
 #include "platform/qt/qt_text.hpp"
 
@@ -10,7 +11,7 @@ namespace kestri {
 std::optional<std::u16string> QtInputBox::Ask(const std::u16string& prompt, const std::u16string& title,
                                               const std::u16string& defaultText) {
   InstallJapaneseLabels();
-  QInputDialog dialog(owner_);
+  QInputDialog dialog(DialogOwner(owner_));
   dialog.setWindowTitle(ToQt(title));
   dialog.setLabelText(ToQt(prompt));
   dialog.setTextValue(ToQt(defaultText));

@@ -1,10 +1,10 @@
 #include "platform/qt/qt_message_box.hpp"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <vector>
 
+#include "platform/qt/dialog_owner.hpp"
 #include "platform/qt/qt_text.hpp"
 
 namespace kestri {
@@ -53,9 +53,7 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
 }  // namespace
 
 MessageAnswer QtMessageBox::Ask(const MessageRequest& request) {
-  QWidget* owner = QApplication::activeModalWidget();
-  if (owner == nullptr) owner = owner_;
-  QMessageBox box(owner);
+  QMessageBox box(DialogOwner(owner_));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(ToQt(request.caption));
   box.setText(ToQt(request.text));

@@ -50,6 +50,9 @@ class FaultyFileSystem : public PosixFileSystem {
     if (path != faultyReplace) return PosixFileSystem::Replace(path, producer);
     return false;
   }
+  bool ReplaceUnsynced(std::u16string_view path, const ByteProducer& producer) override {
+    return path != faultyReplace && PosixFileSystem::ReplaceUnsynced(path, producer);
+  }
   bool Copy(std::u16string_view from, std::u16string_view to) override {
     return !faultyCopy && PosixFileSystem::Copy(from, to);
   }

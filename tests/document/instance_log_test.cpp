@@ -11,7 +11,8 @@ class Instances : public DocumentTest {
   void Record(const char16_t* key, const char16_t* handle) {
     ASSERT_TRUE(common->SetINIex(2, log.Path(), u"HWND", key, handle));
   }
-  static std::optional<std::u16string> Gone(std::int64_t) { return std::nullopt; }
+  static bool Nobody(std::int64_t) { return false; }
+  static bool Everybody(std::int64_t) { return true; }
 };
 
 TEST_F(Instances, CaptionTailCarriesVersionAndTwoDigitNumber) {
@@ -20,34 +21,68 @@ TEST_F(Instances, CaptionTailCarriesVersionAndTwoDigitNumber) {
 }
 
 TEST_F(Instances, FirstInstanceGetsNumberOne) {
-  EXPECT_EQ(log.AssignWindowNumber(Gone), 1);
+  EXPECT_EQ(log.AssignWindowNumber(Nobody), 1);
   EXPECT_EQ(state.windowNumber, 1);
   EXPECT_EQ(state.captionTail, CaptionTail(1));
 }
 
-TEST_F(Instances, NumberOfALivingWindowIsPassedOver) {
+TEST_F(Instances, NumberIsRecordedAtOnce) {
+  log.AssignWindowNumber(Nobody);
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"001HWND"), u"4711");
+}
+
+TEST_F(Instances, NumbersOfLivingWindowsArePassedOver) {
   Record(u"001HWND", u"100");
   Record(u"002HWND", u"200");
-  const auto captionOf = [](std::int64_t handle) -> std::optional<std::u16string> {
-    return u"a.htm" + CaptionTail(handle == 100 ? 1 : 2);
-  };
-  EXPECT_EQ(log.AssignWindowNumber(captionOf), 3);
+  EXPECT_EQ(log.AssignWindowNumber(Everybody), 3);
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"001HWND"), u"100");
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"003HWND"), u"4711");
 }
 
-TEST_F(Instances, StaleHandleYieldsItsNumber) {
+TEST_F(Instances, StaleHandleYieldsItsNumberAndItsFile) {
   Record(u"001HWND", u"100");
-  EXPECT_EQ(log.AssignWindowNumber(Gone), 1);
+  Record(u"002HWND", u"200");
+  Record(u"003HWND", u"300");
+  ASSERT_TRUE(common->SetINIex(2, log.Path(), u"OPENFILE", u"002FILE", u"/d/crashed.htm"));
+  EXPECT_EQ(log.AssignWindowNumber([](std::int64_t handle) { return handle != 200; }), 2);
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"002HWND"), u"4711");
+  EXPECT_EQ(FromInstanceLog(u"OPENFILE", u"002FILE"), u"(none)");
 }
 
-TEST_F(Instances, HandleThatNowBelongsToAnotherProgramYieldsItsNumber) {
-  Record(u"001HWND", u"100");
-  EXPECT_EQ(log.AssignWindowNumber([](std::int64_t) { return std::optional<std::u16string>(u"calculator"); }),
-            1);
+TEST_F(Instances, EntriesThatACrashLeftUnderThisVeryHandleAreForgotten) {
+  Record(u"001HWND", u"4711");
+  Record(u"002HWND", u"200");
+  Record(u"003HWND", u"4711");
+  EXPECT_EQ(log.AssignWindowNumber(Everybody), 1);
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"003HWND"), u"(none)");
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"002HWND"), u"200");
 }
 
 TEST_F(Instances, DamagedHandleYieldsItsNumber) {
   Record(u"001HWND", u"???");
-  EXPECT_EQ(log.AssignWindowNumber([](std::int64_t) { return std::optional(CaptionTail(1)); }), 1);
+  EXPECT_EQ(log.AssignWindowNumber(Everybody), 1);
+}
+
+TEST_F(Instances, LogThatCannotBeWrittenStillGivesANumber) {
+  Record(u"001HWND", u"100");
+  files.faultyReplace = log.Path();
+  EXPECT_EQ(log.AssignWindowNumber(Everybody), 2);
+  EXPECT_EQ(state.captionTail, CaptionTail(2));
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"002HWND"), u"(none)");
+}
+
+TEST_F(Instances, EntriesNameTheFileOrTheNumberOfAWindowWithoutOne) {
+  log.AssignWindowNumber(Nobody);
+  Record(u"003HWND", u"300");
+  ASSERT_TRUE(common->SetINIex(2, log.Path(), u"OPENFILE", u"003FILE", u"/d/表.htm"));
+  Record(u"006HWND", u"600");
+  const auto entries = log.Entries(5);
+  ASSERT_EQ(entries.size(), 2U);
+  EXPECT_EQ(entries[0].number, 1);
+  EXPECT_EQ(entries[0].handle, 4711);
+  EXPECT_EQ(ToUtf8(entries[0].file), "Win No #001");
+  EXPECT_EQ(entries[1].number, 3);
+  EXPECT_EQ(ToUtf8(entries[1].file), "/d/表.htm");
 }
 
 TEST_F(Instances, OpenAndSaveRecordPathAndHandle) {

@@ -152,12 +152,13 @@ class FakeEnvironment : public Environment {
   }
   std::vector<std::u16string> Drives() override { return drives; }
   std::u16string UserName() override { return u"author"; }
-  std::uint32_t ProcessId() override { return 4711; }
+  std::uint32_t ProcessId() override { return processId; }
   std::vector<std::u16string> ProcessExecutables() override { return processes; }
   bool ChangeFolder(std::u16string_view folder) override {
     currentFolder = folder;
     return true;
   }
+  std::uint32_t processId = 4711;
   std::u16string executable = u"/opt/Kestrile/Kestri";
   std::map<SystemFolder, std::u16string> folders;
   std::vector<std::u16string> drives{u"/"};

@@ -25,23 +25,30 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
     {"document/edit_control", {"platform", "shell/common"}},
     {"document", {"platform", "shell/common", "document/edit_control"}},
     {"tags", {"platform", "shell/common", "document", "document/edit_control"}},
+    {"browse", {"platform", "shell/common", "document", "document/edit_control"}},
+    {"search", {"platform", "shell/common", "document", "document/edit_control"}},
     {"ui", {"platform", "platform/qt", "shell/common", "document", "document/edit_control"}},
     {"document/forms",
      {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "ui"}},
     {"tags/forms",
      {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "tags", "ui"}},
-    {"shell/window", {"platform", "shell/common", "document", "document/edit_control", "tags"}},
+    {"browse/forms",
+     {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "browse", "ui"}},
+    {"search/forms",
+     {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "search", "ui"}},
+    {"shell/window", {"platform", "shell/common", "document", "document/edit_control", "search", "tags"}},
     {"shell/startup", {"platform", "shell/common"}},
     {"shell/startup/forms",
      {"platform", "platform/posix", "platform/qt", "shell/common", "shell/window", "shell/startup",
       "shell/forms", "document", "ui"}},
     {"shell/forms",
-     {"platform", "platform/qt", "shell/common", "shell/window", "document", "document/edit_control",
-      "document/forms", "tags", "tags/forms", "ui"}},
+     {"platform", "platform/qt", "shell/common", "shell/window", "browse", "browse/forms", "document",
+      "document/edit_control", "document/forms", "search", "search/forms", "tags", "tags/forms", "ui"}},
 };
 
-const std::set<std::string> kToolkitLayers = {"platform/qt", "ui",          "document/forms",
-                                              "tags/forms",  "shell/forms", "shell/startup/forms"};
+const std::set<std::string> kToolkitLayers = {"platform/qt",  "ui",          "document/forms",
+                                              "tags/forms",   "shell/forms", "shell/startup/forms",
+                                              "browse/forms", "search/forms"};
 
 struct Include {
   fs::path file;  // relative to the root
