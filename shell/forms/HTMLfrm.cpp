@@ -9,7 +9,12 @@
 #include <QScreen>
 #include <QToolTip>
 
+#include "browse/forms/WinShowFrm.hpp"
+#include "document/forms/FreeIndFrm.hpp"
+#include "document/forms/HenFrm.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "search/forms/LineIndexFrm.hpp"
+#include "shell/common/own_processes.hpp"
 #include "shell/forms/icons.hpp"
 #include "shell/window/new_document.hpp"
 #include "shell/window/status_text.hpp"
@@ -75,12 +80,16 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
              .place = *this,
              .hints = *this,
              .tagAnalyse = {}}),
+      transforms_(text_, services_.state, services_.common, *this),
+      slots_(control_, services_.state, services_.common, document_, *this),
       commands_({.common = services_.common,
                  .state = services_.state,
                  .text = text_,
                  .document = document_,
                  .documentWindow = *this,
                  .html = html_,
+                 .transforms = transforms_,
+                 .slots = slots_,
                  .inputBox = services_.inputBox,
                  .boxes = services_.boxes,
                  .window = *this}) {
@@ -153,6 +162,7 @@ void HTMLfrm::FinishLoading() {
   actions_->AddIcons();
   toolBar_->AddIcons();
   CountStart(services_.common);
+  services_.instances.Announce([this] { return FromQt(windowTitle()); }, [this] { BringToFront(); });
 }
 
 bool HTMLfrm::OpenDocument(std::u16string_view path) {
@@ -167,12 +177,20 @@ void HTMLfrm::closeEvent(QCloseEvent* event) {
   }
   timeP_.stop();
   SaveSettings();
+  LeaveInstances();
   event->accept();
 }
 
 void HTMLfrm::SaveSettings() {
   settings_.rectangle = ToTwips(QRect(pos(), size()));
   SaveWindowSettings(services_.common, services_.state, settings_, StateOf(*this));
+}
+
+void HTMLfrm::LeaveInstances() {
+  services_.instances.Withdraw();
+  const bool last = CountOwnProcesses(services_.common.PortSet().environment) < 2;
+  InstanceLog(services_.common, services_.state)
+      .Unregister(last ? InstanceLog::Others::None : InstanceLog::Others::Running);
 }
 
 void HTMLfrm::changeEvent(QEvent* event) {
@@ -207,6 +225,7 @@ void HTMLfrm::FocusText() {
 }
 
 void HTMLfrm::BringToFront() {
+  if (isMinimized()) showNormal();
   raise();
   activateWindow();
 }
@@ -247,7 +266,9 @@ void HTMLfrm::SetCaption(std::u16string_view caption) {
 }
 
 // Without an icon of its own the window shows the program's.
-void HTMLfrm::SetWindowIcon(std::u16string_view iconName) { setWindowIcon(QIcon::fromTheme(ToQt(iconName))); }
+void HTMLfrm::SetWindowIcon(std::u16string_view iconName) {
+  setWindowIcon(QIcon::fromTheme(ToQt(iconName)));
+}
 
 void HTMLfrm::HTMLToolsEnable(bool) {
   toolBar_->RefreshStates();
@@ -284,6 +305,32 @@ void HTMLfrm::ShowStatusBar(bool visible) {
 
 void HTMLfrm::ShowVersion() {
   services_.boxes.Ask({.text = FromQt(services_.versionText), .caption = std::u16string(kApplicationTitle)});
+}
+
+void HTMLfrm::ShowFreeIndent() {
+  if (!text_.RefuseIfLocked()) FreeIndFrm(transforms_, this).exec();
+}
+
+void HTMLfrm::ShowInsertBar() {
+  if (insertBar_ == nullptr) insertBar_ = new EditSubFrm(transforms_, services_.common, *this, {}, this);
+  insertBar_->show();
+  insertBar_->activateWindow();
+}
+
+void HTMLfrm::ShowTextToHtml() {
+  if (!document_.ConfirmDiscard(u"HTMLに変換して開く")) return;
+  TextToHtml conversion(document_, services_.common, services_.boxes);
+  HenFrm(conversion, services_.dialogs, this).Run();
+}
+
+void HTMLfrm::ShowWindowList() {
+  const WindowList windows(services_.common, services_.state, services_.instances);
+  WinShowFrm(windows, QIcon::fromTheme(QStringLiteral("text-html")), this).exec();
+}
+
+void HTMLfrm::ShowLineJump() {
+  LineJump jump(text_, services_.common, services_.boxes, *this);
+  LineIndexFrm(jump, this).exec();
 }
 
 std::optional<PixelRect> HTMLfrm::GetCaretPixel() {

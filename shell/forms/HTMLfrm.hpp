@@ -6,10 +6,14 @@
 #include <memory>
 
 #include "document/document.hpp"
+#include "document/forms/EditSubFrm.hpp"
 #include "document/main_text.hpp"
+#include "document/save_slots.hpp"
+#include "document/text_transforms.hpp"
 #include "platform/clipboard.hpp"
 #include "platform/file_dialog.hpp"
 #include "platform/input_box.hpp"
+#include "platform/instances.hpp"
 #include "platform/message_box.hpp"
 #include "shell/forms/command_actions.hpp"
 #include "shell/forms/status_panes.hpp"
@@ -38,6 +42,7 @@ class HTMLfrm : public QMainWindow,
     InputBox& inputBox;
     Clipboard& clipboard;
     OpenFallbacks& fallbacks;
+    Instances& instances;
     QString versionText;
   };
 
@@ -64,6 +69,7 @@ class HTMLfrm : public QMainWindow,
   void ConnectView();
   void PlaceWindow();
   void SaveSettings();
+  void LeaveInstances();
   void TimeP();
   QRect ScreenArea() const;
 
@@ -98,6 +104,11 @@ class HTMLfrm : public QMainWindow,
   void ShowStatusBar(bool visible) override;
   void ShowGuideLines(bool visible) override { view_->SetGuideLines(visible); }
   void ShowVersion() override;
+  void ShowFreeIndent() override;
+  void ShowInsertBar() override;
+  void ShowTextToHtml() override;
+  void ShowWindowList() override;
+  void ShowLineJump() override;
 
   // CaretPlace
   std::optional<PixelRect> GetCaretPixel() override;
@@ -124,7 +135,10 @@ class HTMLfrm : public QMainWindow,
   InToTAGFrm popupForm_;
   InToTAG popup_;
   HtmlEditCommands html_;
+  TextTransforms transforms_;
+  SaveSlots slots_;
   EditorCommands commands_;
+  EditSubFrm* insertBar_ = nullptr;
 
   CommandActions* actions_ = nullptr;
   ToolBar* toolBar_ = nullptr;

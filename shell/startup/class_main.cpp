@@ -1,7 +1,6 @@
 #include "shell/startup/class_main.hpp"
 
-#include <algorithm>
-
+#include "shell/common/own_processes.hpp"
 #include "shell/common/text.hpp"
 #include "shell/startup/command_line.hpp"
 
@@ -45,15 +44,10 @@ bool ClassMain::EnvironmentAllows() {
   return false;
 }
 
-std::int32_t ClassMain::CountOwnProcesses(std::u16string_view fullPath) const {
-  const auto processes = common_.PortSet().environment.ProcessExecutables();
-  return static_cast<std::int32_t>(std::count(processes.begin(), processes.end(), fullPath));
-}
-
 bool ClassMain::InstanceLimitAllows() {
   const auto limit = ToInteger(common_.GetINI(common_.ExeName(), u"Setting", u"AppECount", u"5"));
   const std::int32_t allowed = limit.value_or(kDefaultInstanceLimit);
-  if (CountOwnProcesses(common_.PortSet().environment.ExecutablePath()) <= allowed) return true;
+  if (CountOwnProcesses(common_.PortSet().environment) <= allowed) return true;
   Refuse(u"\"" + common_.ExeName() + u"\"は " + ToText(allowed) +
          u"個以上起動できないように設定されています");
   return false;

@@ -30,9 +30,6 @@ class ClassMain {
 
   std::int32_t Main(std::u16string_view commandLine);
 
-  // Running processes of this program, this one included.
-  std::int32_t CountOwnProcesses(std::u16string_view fullPath) const;
-
  private:
   bool EnvironmentAllows();
   bool InstanceLimitAllows();

@@ -7,6 +7,8 @@
 #include "shell/window/rows/file_rows.hpp"
 #include "shell/window/rows/help_rows.hpp"
 #include "shell/window/rows/html_rows.hpp"
+#include "shell/window/rows/search_rows.hpp"
+#include "shell/window/rows/tool_rows.hpp"
 #include "shell/window/rows/view_rows.hpp"
 
 namespace kestri {
@@ -20,11 +22,14 @@ constexpr auto Joined(const std::array<CommandRow, Sizes>&... parts) {
   return all;
 }
 
-constexpr auto kRows = Joined(rows::kFileStartRows, rows::kNewRows, rows::kFileOpenRows, rows::kHistoryRows,
-                              rows::kHistoryEndRows, rows::kFileEndRows, rows::kEditRows, rows::kHtmlRows,
-                              rows::kViewRows, rows::kHelpRows);
+constexpr auto kRows =
+    Joined(rows::kFileStartRows, rows::kNewRows, rows::kFileOpenRows, rows::kHistoryRows,
+           rows::kHistoryEndRows, rows::kFileEndRows, rows::kEditRows, rows::kConversionRows,
+           rows::kBracketRows, rows::kEditEndRows, rows::kDayRows, rows::kSearchRows, rows::kHtmlRows,
+           rows::kToolStartRows, rows::kSlotRows, rows::kViewRows, rows::kHelpRows);
 
-constexpr std::array kMenus = {TopMenu::File, TopMenu::Edit, TopMenu::Html, TopMenu::View, TopMenu::Help};
+constexpr std::array kMenus = {TopMenu::File, TopMenu::Edit, TopMenu::Search, TopMenu::Html,
+                               TopMenu::Tool, TopMenu::View, TopMenu::Help};
 
 constexpr std::array kNewEntries = {
     ToolRow::Entry{"New1", u"白紙", "MenFileMs", 0},
@@ -87,6 +92,10 @@ std::u16string_view TopMenuCaption(TopMenu menu) {
       return u"編集(&E)";
     case TopMenu::Html:
       return u"HTML(&T)";
+    case TopMenu::Search:
+      return u"検索(&S)";
+    case TopMenu::Tool:
+      return u"ﾂｰﾙ(&O)";
     case TopMenu::View:
       return u"表示(&V)";
     case TopMenu::Help:

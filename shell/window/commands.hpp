@@ -10,7 +10,7 @@ namespace kestri {
 
 class EditorCommands;
 
-enum class TopMenu { File, Edit, Html, View, Help };
+enum class TopMenu { File, Edit, Search, Html, Tool, View, Help };
 
 struct CommandRow {
   TopMenu menu;

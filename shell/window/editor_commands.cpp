@@ -1,5 +1,6 @@
 #include "shell/window/editor_commands.hpp"
 
+#include "search/document_reports.hpp"
 #include "shell/window/new_document.hpp"
 #include "tags/mode_at_caret.hpp"
 
@@ -138,6 +139,18 @@ void EditorCommands::CandidatesAtCaret() {
 
 void EditorCommands::CallUserInTo() {
   around_.html.mnuCallUserInTo_Click();
+}
+
+std::u16string EditorCommands::DefaultSlotCaption(std::u16string_view command) const {
+  return u"ﾃﾞﾌｫﾙﾄｽﾛｯﾄ(" + ToText(Slots().DefaultSlot()) + u")  " + std::u16string(command);
+}
+
+void EditorCommands::ShowTotalIndex() {
+  kestri::ShowTotalIndex(around_.text.Control(), around_.documentWindow);
+}
+
+void EditorCommands::ShowTotalBytes() {
+  kestri::ShowTotalBytes(around_.text.Control(), around_.documentWindow);
 }
 
 void EditorCommands::ToggleToolBar() {

@@ -7,6 +7,8 @@
 
 #include "document/document.hpp"
 #include "document/main_text.hpp"
+#include "document/save_slots.hpp"
+#include "document/text_transforms.hpp"
 #include "platform/input_box.hpp"
 #include "platform/message_box.hpp"
 #include "shell/common/application_state.hpp"
@@ -27,6 +29,11 @@ class EditorWindow {
   virtual void ShowStatusBar(bool visible) = 0;
   virtual void ShowGuideLines(bool visible) = 0;
   virtual void ShowVersion() = 0;
+  virtual void ShowFreeIndent() = 0;
+  virtual void ShowInsertBar() = 0;
+  virtual void ShowTextToHtml() = 0;
+  virtual void ShowWindowList() = 0;
+  virtual void ShowLineJump() = 0;
 };
 
 class EditorCommands {
@@ -38,6 +45,8 @@ class EditorCommands {
     Document& document;
     DocumentWindow& documentWindow;
     HtmlEditCommands& html;
+    TextTransforms& transforms;
+    SaveSlots& slots;
     InputBox& inputBox;
     MessageBox& boxes;
     EditorWindow& window;
@@ -82,6 +91,13 @@ class EditorCommands {
   void CEdit(int index);
   void CandidatesAtCaret();
   void CallUserInTo();
+
+  TextTransforms& Transforms() const { return around_.transforms; }
+  SaveSlots& Slots() const { return around_.slots; }
+  EditorWindow& Window() const { return around_.window; }
+  std::u16string DefaultSlotCaption(std::u16string_view command) const;
+  void ShowTotalIndex();
+  void ShowTotalBytes();
 
   void ToggleToolBar();
   void ToggleStatusBar();

@@ -4,12 +4,14 @@
 #include <span>
 
 #include "document/document_window.hpp"
+#include "document/instance_log.hpp"
 #include "platform/posix/posix_clock.hpp"
 #include "platform/posix/posix_environment.hpp"
 #include "platform/posix/posix_file_system.hpp"
 #include "platform/qt/qt_clipboard.hpp"
 #include "platform/qt/qt_file_dialog.hpp"
 #include "platform/qt/qt_input_box.hpp"
+#include "platform/qt/qt_instances.hpp"
 #include "platform/qt/qt_message_box.hpp"
 #include "platform/qt/qt_shell.hpp"
 #include "platform/qt/qt_text.hpp"
@@ -46,6 +48,7 @@ class EditorProcess final : public StartupEditor {
   QtInputBox inputBox_;
   QtClipboard clipboard_;
   NoFallbacks fallbacks_;
+  QtInstances instances_{common_.GetSystemDirectory(static_cast<int>(SystemFolder::Windows))};
   std::unique_ptr<HTMLfrm> window_;
 };
 
@@ -55,7 +58,8 @@ bool EditorProcess::LoadEditor() {
     TellDamagedSettings();
     return false;
   }
-  state_.captionTail = CaptionTail(state_.windowNumber);
+  instances_.Appear();
+  InstanceLog(common_, state_).AssignWindowNumber(AmongInstances(instances_));
   window_ = std::make_unique<HTMLfrm>(
       HTMLfrm::Services{.common = common_,
                         .state = state_,
@@ -64,6 +68,7 @@ bool EditorProcess::LoadEditor() {
                         .inputBox = inputBox_,
                         .clipboard = clipboard_,
                         .fallbacks = fallbacks_,
+                        .instances = instances_,
                         .versionText = ToQt(VersionText(kVersionMajor, kVersionMinor, kVersionRevision))},
       std::move(*settings));
   boxes_.SetOwner(window_.get());

@@ -19,6 +19,11 @@ inline constexpr auto kNever = Ask<&C::Never>;
 inline constexpr auto kWritable = Ask<&C::Writable>;
 inline constexpr auto kTagTools = Ask<&C::TagToolsOn>;
 
+// A caption whose "&" is a character, as a menu shows it.
+inline std::u16string MenuText(std::u16string_view caption) {
+  return Replace(caption, u"&", u"&&");
+}
+
 constexpr CommandRow Separator(TopMenu menu, std::u16string_view submenu = u"") {
   return {menu, submenu, "", 0, u"-", u"", "", "", kNever, nullptr};
 }

@@ -12,6 +12,10 @@ inline constexpr std::array kViewRows = {
                kAlways, [](C& c) { c.ToggleStatusBar(); }, Ask<&C::StatusBarShown>},
     CommandRow{TopMenu::View, u"", "MenV", 2, u"ｶﾞｲﾄﾞﾗｲﾝ(&G)", u"ｶｰｿﾙを通る線の表示を切り替えます", "", "",
                kAlways, [](C& c) { c.ToggleGuideLines(); }, Ask<&C::GuideLinesShown>},
+    Separator(TopMenu::View),
+    CommandRow{TopMenu::View, u"", "WinShow", 0, u"ｳｨﾝﾄﾞｳの呼び出し(&W)...",
+               u"起動中のほかのｳｨﾝﾄﾞｳを前に出します", "", "", kAlways,
+               [](C& c) { c.Window().ShowWindowList(); }},
 };
 
 }  // namespace kestri::rows

@@ -237,6 +237,57 @@ TEST_F(HTMLfrmTest, TheViewMenuSwitchesBarsAndGuideLinesAndShowsTheirMarks) {
   EXPECT_TRUE(FindCommand("MenV", 2)->checked != nullptr);
 }
 
+TEST_F(HTMLfrmTest, TransformsOfTheEditMenuChangeTheSelectionInOneStep) {
+  desk.Open();
+  desk.Put(u"⟦abc⟧");
+  desk.Run("HighEdit", 6);
+  EXPECT_EQ(desk.Row(), "⟦ａｂｃ⟧");
+  desk.Run("KakkoMenu", 1);
+  EXPECT_EQ(desk.Row(), "⟦(ａｂｃ)⟧");
+  desk.Press(u"{Ctrl+Z}{Ctrl+Z}");
+  EXPECT_EQ(desk.Row(), "⟦abc⟧");
+}
+
+TEST_F(HTMLfrmTest, TheChosenLineEndIsWrittenOnSave) {
+  OpenPage(u"a\r\nb\r\n");
+  desk.Run("LineCode", 2);
+  EXPECT_EQ(desk.Pane(StatusPanes::kLineEnd), "LF");
+  EXPECT_TRUE(Title().starts_with("page.htm(変更)")) << Title();
+  desk.Press(u"{Ctrl+S}");
+  EXPECT_EQ(desk.folder.Read("page.htm"), "a\nb\r\n");
+}
+
+TEST_F(HTMLfrmTest, ASlotKeepsTheTextAndBringsItBackUnsaved) {
+  OpenPage(u"first\r\n");
+  desk.Press(u"{Ctrl+3}");
+  EXPECT_TRUE(desk.Pane(StatusPanes::kMessage).starts_with("Slot(3).Change ["));
+  desk.Run("DefSlotSave", 0);
+  EXPECT_TRUE(desk.Pane(StatusPanes::kMessage).starts_with("Slot(3).Save ["));
+  desk.Press(u"{Ctrl+A}x");
+  desk.Run("LoadSlot", 3);
+  EXPECT_EQ(ToUtf8(desk.window->Control().Text()), "first");
+  EXPECT_TRUE(Title().starts_with("page.htm(変更)")) << Title();
+  EXPECT_FALSE(desk.window->Commands().MayRun(*FindCommand("LoadSlot", 4)))
+      << "an empty slot cannot be loaded";
+}
+
+TEST_F(HTMLfrmTest, TheSearchMenuReportsIndexAndBytes) {
+  desk.Open();
+  desk.Put(u"あいう‸");
+  desk.Run("SearEdit", 5);
+  EXPECT_EQ(desk.Pane(StatusPanes::kState), "3(ｲﾝﾃﾞｯｸｽ) / 3(総ｲﾝﾃﾞｯｸｽ)");
+  desk.Run("SearEdit", 6);
+  const std::string report = desk.Pane(StatusPanes::kMessage) + desk.Pane(StatusPanes::kState);
+  EXPECT_NE(report.find("現在のﾃｷｽﾄの総ｻｲｽﾞは 0.01ｷﾛﾊﾞｲﾄ (6ﾊﾞｲﾄ) です"), std::string::npos) << report;
+}
+
+TEST_F(HTMLfrmTest, TheLogOfInstancesForgetsAClosedWindow) {
+  OpenPage(u"x\r\n");
+  EXPECT_EQ(desk.folder.Read("Kestri_TEMP_FileLog.INI").find("001FILE=") != std::string::npos, true);
+  desk.window->close();
+  EXPECT_EQ(desk.folder.Read("Kestri_TEMP_FileLog.INI"), "") << "the last window takes the log along";
+}
+
 TEST_F(HTMLfrmTest, PictureOfTheWindowWithItsPopup) {
   desk.folder.Write("page.htm",
                     code_page::Encode(u"<HTML>\r\n<BODY>\r\n<P>こんにちは。</P>\r\n</BODY>\r\n</HTML>\r\n"));

@@ -9,6 +9,7 @@
 #include "shell/forms/HTMLfrm.hpp"
 #include "tests/fakes/completion_world.hpp"
 #include "tests/fakes/ports.hpp"
+#include "tests/fakes/running_instances.hpp"
 #include "tests/fakes/temporary_folder.hpp"
 #include "tests/fakes/view_keys.hpp"
 #include "tests/fakes/visible_caret.hpp"
@@ -56,6 +57,7 @@ class EditorDesk {
                                                          .inputBox = inputBox,
                                                          .clipboard = clipboard,
                                                          .fallbacks = fallbacks,
+                                                         .instances = instances,
                                                          .versionText = QStringLiteral("version")},
                                        settings.value());
     window->show();
@@ -83,6 +85,7 @@ class EditorDesk {
   FakeFileDialog dialogs;
   FakeInputBox inputBox;
   NoFallbacks fallbacks;
+  RunningInstances instances;
   ApplicationState state;
   std::unique_ptr<ClassCommon> common;
   std::unique_ptr<HTMLfrm> window;
