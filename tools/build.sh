@@ -31,7 +31,7 @@ run_fuzzers() {
     name=$(basename "$target")
     mkdir -p "build/fuzz/corpus/$name"
     echo "$name"
-    "$target" -max_total_time="$seconds" -print_final_stats=0 -verbosity=0 -max_len=4096 \
+    "$target" -max_total_time="$seconds" -print_final_stats=0 -verbosity=0 -print_funcs=0 -max_len=4096 \
       -artifact_prefix="build/fuzz/$name-" "build/fuzz/corpus/$name"
   done
 }
