@@ -32,7 +32,7 @@ struct FolderCase {
   std::vector<std::string> messages;
   std::optional<std::u16string> dictionaries;
 
-  friend void PrintTo(const FolderCase& folderCase, std::ostream* out) { *out << folderCase.name; }
+  friend void PrintTo(const FolderCase& folderCase, std::ostream* stream) { *stream << folderCase.name; }
 };
 
 namespace case_files {
