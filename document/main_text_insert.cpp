@@ -67,12 +67,16 @@ void MainText::WM_PASTE() {
     const std::u16string text = WithCrLf(clipboard_.Text());
     if (text.empty() || !AcceptsLargePaste(text)) return;
     EM_REPLACESEL(ExpandTabs(text));
+    control_.EM_SCROLLCARET();
   });
 }
 
 void MainText::CommitInput(std::u16string_view text) {
   if (control_.Locked() || text.empty()) return;
-  Guarded([&] { EM_REPLACESEL(WithCrLf(text)); });
+  Guarded([&] {
+    EM_REPLACESEL(WithCrLf(text));
+    control_.EM_SCROLLCARET();
+  });
 }
 
 }  // namespace kestri

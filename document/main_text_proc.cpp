@@ -34,7 +34,11 @@ void MainText::WM_CHAR(char16_t character, int lParam) {
 
 void MainText::SendChar(char16_t character, int lParam) {
   const char16_t handedOn = ApplyKeyRules(character);
-  if (handedOn != 0) control_.WM_CHAR(handedOn);
+  if (handedOn != 0) {
+    control_.WM_CHAR(handedOn);
+  } else {
+    control_.EM_SCROLLCARET();  // what a rule put in instead must be in sight too
+  }
   if (subclassed_) DecorAfterChar(character, lParam);
 }
 

@@ -94,7 +94,8 @@ std::u16string Document::LineEndOnDisk() const {
   if (control_.LineCount() > 1) return u"CR+LF";
   const bool cr = Holds(control_, u"\r");
   const bool lf = Holds(control_, u"\n");
-  if (cr == lf) return u"CR+LF";
+  if (cr && lf) return u"(不明)";
+  if (!cr && !lf) return u"CR+LF";
   return cr ? u"CR" : u"LF";
 }
 

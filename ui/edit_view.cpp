@@ -242,6 +242,7 @@ EditView::ScrollState EditView::ScrollPosition() {
 }
 
 void EditView::SetScrollPosition(ScrollState state) {
+  pending_.scrollCaret = false;  // where the view stands is told, not where the caret is
   Flush();
   UpdateScrollRanges();
   if (state.x > 0) NoteWidth(state.x + viewport()->width() - kTextMargin);

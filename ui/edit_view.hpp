@@ -202,7 +202,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void SelectLines(std::int32_t anchorLine, std::int32_t line);
   bool InSelection(QPoint point);
   void StartDrag();
-  void DropFromOutside(const QMimeData& dropped, Position at);
+  MainText::Drop DropFromOutside(const QMimeData& dropped, Position at);
   void SetDropCaret(Position at);
   void AutoScroll();
   void PublishSelection();

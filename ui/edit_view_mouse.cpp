@@ -256,12 +256,14 @@ void EditView::dragLeaveEvent(QDragLeaveEvent*) {
 void EditView::dropEvent(QDropEvent* event) {
   const Position at = PositionAtPoint(event->position().toPoint());
   SetDropCaret(-1);
-  event->acceptProposedAction();
   if (event->source() == this) {
+    event->acceptProposedAction();
     droppedInside_ = true;
     MoveOrCopySelection(at, event->dropAction());
   } else {
-    DropFromOutside(*event->mimeData(), at);
+    // Nothing from outside is ever taken away from where it came from, least of all when it was refused.
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(DropFromOutside(*event->mimeData(), at) == MainText::Drop::Done);
   }
   Flush();
 }
@@ -285,16 +287,12 @@ void EditView::MoveOrCopySelection(Position to, Qt::DropAction action) {
 }
 
 // A file manager offers the paths as text too, so files are looked for first.
-void EditView::DropFromOutside(const QMimeData& dropped, Position at) {
+MainText::Drop EditView::DropFromOutside(const QMimeData& dropped, Position at) {
   const std::vector<std::u16string> files = LocalFiles(dropped);
-  if (!files.empty()) {
-    text_.OLEDropFiles(files);
-  } else if (dropped.hasText()) {
-    text_.EM_SETSEL(at, at);
-    text_.OLEDropText(FromOtherPrograms(dropped.text()));
-  } else {
-    text_.OLEDropOther();
-  }
+  if (!files.empty()) return text_.OLEDropFiles(files);
+  if (!dropped.hasText()) return text_.OLEDropOther();
+  text_.EM_SETSEL(at, at);
+  return text_.OLEDropText(FromOtherPrograms(dropped.text()));
 }
 
 void EditView::SetDropCaret(Position at) {

@@ -172,7 +172,7 @@ bool PosixFileSystem::Copy(std::u16string_view from, std::u16string_view to) {
   const std::string same = CanonicalNative(*source);
   if (!same.empty() && same == CanonicalNative(*target)) return false;
   bool read = false;
-  const bool written = ReplaceUnsynced(to, [&](const ByteConsumer& write) {
+  const bool written = Replace(to, [&](const ByteConsumer& write) {
     bool accepted = true;
     read = Read(from, [&](std::string_view bytes) { return accepted = write(bytes); });
     return read && accepted;

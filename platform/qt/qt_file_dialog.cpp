@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTreeView>
 
 #include "platform/qt/dialog_owner.hpp"
@@ -71,11 +73,34 @@ std::optional<FileDialogAnswer> Answer(QFileDialog& dialog) {
   return answer;
 }
 
-// First extension of the chosen row, empty for "*".
-QString SuffixOf(const QString& nameFilter) {
+// The patterns of a row as the toolkit holds it: "Cﾌｧｲﾙ (*.c;*.h) (*.c *.h *.cpp)".
+QStringList PatternsOf(const QString& nameFilter) {
   const qsizetype begin = nameFilter.lastIndexOf(u'(') + 1;
-  const QString pattern = nameFilter.mid(begin, nameFilter.lastIndexOf(u')') - begin).section(u' ', 0, 0);
-  return pattern.startsWith(QLatin1String("*.")) ? pattern.mid(2) : QString();
+  return nameFilter.mid(begin, nameFilter.lastIndexOf(u')') - begin).split(u' ', Qt::SkipEmptyParts);
+}
+
+// The name with the row's first extension behind it, unless it ends in one of the row's or the row takes any
+// name.
+QString WithExtension(const QString& path, const QString& nameFilter) {
+  const QStringList patterns = PatternsOf(nameFilter);
+  for (const QString& pattern : patterns) {
+    if (pattern == QLatin1String("*") || path.endsWith(pattern.mid(1), Qt::CaseInsensitive)) return path;
+  }
+  return patterns.isEmpty() ? path : path + patterns.constFirst().mid(1);
+}
+
+bool MayReplace(QWidget& dialog, const QString& path) {
+  if (!QFileInfo::exists(path)) return true;
+  QMessageBox box(QMessageBox::Warning, dialog.windowTitle(),
+                  QStringLiteral("%1 は既に存在します\n上書きしますか?").arg(QFileInfo(path).fileName()),
+                  QMessageBox::NoButton, &dialog);
+  box.setTextFormat(Qt::PlainText);
+  QPushButton* yes = box.addButton(QStringLiteral("はい(&Y)"), QMessageBox::YesRole);
+  QPushButton* no = box.addButton(QStringLiteral("いいえ(&N)"), QMessageBox::NoRole);
+  box.setDefaultButton(no);
+  box.setEscapeButton(no);
+  box.exec();
+  return box.clickedButton() == yes;
 }
 
 }  // namespace
@@ -115,12 +140,16 @@ std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& r
   dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & kOverwritePrompt) == 0);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked below, of the name with its extension
   Prepare(dialog, request);
-  const auto followRow = [&dialog](const QString& row) { dialog.setDefaultSuffix(SuffixOf(row)); };
-  followRow(dialog.selectedNameFilter());
-  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, followRow);
-  return Answer(dialog);
+  while (auto answer = Answer(dialog)) {
+    const QString row = dialog.nameFilters().value(answer->filterIndex - 1);
+    const QString path = WithExtension(ToQtPath(answer->fileName), row);
+    if ((request.flags & kOverwritePrompt) != 0 && !MayReplace(dialog, path)) continue;
+    answer->fileName = FromQtPath(path);
+    return answer;
+  }
+  return std::nullopt;
 }
 
 std::optional<std::u16string> QtFileDialog::AskFolder(const std::u16string& title,

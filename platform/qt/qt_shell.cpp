@@ -102,8 +102,11 @@ std::u16string QtShell::ProgramForMimeType(std::string_view mimeType) {
 }
 
 bool QtShell::StartProgram(std::u16string_view program, std::u16string_view argument) {
+  // A quoted argument is one argument; the quotes are the command line's, not the program's.
+  const bool quoted = argument.size() >= 2 && argument.front() == u'"' && argument.back() == u'"';
+  const std::u16string_view bare = quoted ? argument.substr(1, argument.size() - 2) : argument;
   QStringList arguments;
-  if (!argument.empty()) arguments << ToQtPath(argument);
+  if (!bare.empty()) arguments << ToQtPath(bare);
   return QProcess::startDetached(ToQtPath(program), arguments);
 }
 

@@ -99,7 +99,7 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
   BuildBars();
   ConnectView();
   PlaceWindow();
-  text_.InstallSubclass(settings_.subClass);
+  InstallSubclass();
   NewText(2, services_.common, document_, *this, services_.state, services_.inputBox);
   connect(&timeP_, &QTimer::timeout, this, [this] { TimeP(); });
   timeP_.start(settings_.timerPeriod);
@@ -145,9 +145,20 @@ void HTMLfrm::ConnectView() {
   view_->setFocus();
 }
 
+// Without the subclass the text is bare: no line numbers, no position, no marks, no lines.
+void HTMLfrm::InstallSubclass() {
+  text_.InstallSubclass(settings_.subClass);
+  if (text_.Subclassed()) return;
+  view_->SetLineNumbersShown(false);
+  view_->SetPositionShown(false);
+  view_->SetGuideLines(false);
+  view_->SetLineEndMarks(false, settings_.eofMarkType);
+}
+
 void HTMLfrm::PlaceWindow() {
   const PlacementAtStart placement = PlacementOf(settings_.startUpWindow);
-  const QRect wanted = ToPixels(KeepOnScreen(settings_.rectangle, ToTwips(ScreenArea())));
+  const WindowRectangle& rectangle = placement.usePosition ? settings_.rectangle : WindowRectangle();
+  const QRect wanted = ToPixels(KeepOnScreen(rectangle, ToTwips(ScreenArea())));
   if (placement.useSize) resize(wanted.size());
   if (placement.usePosition) move(wanted.topLeft());
   if (placement.maximized) setWindowState(Qt::WindowMaximized);
@@ -340,6 +351,9 @@ std::optional<PixelRect> HTMLfrm::GetCaretPixel() {
 }
 
 PixelRect HTMLfrm::ScreenOfCaret() {
+  if (const QScreen* holder = QGuiApplication::screenAt(view_->GetCaretPixel())) {
+    return ToPixelRect(holder->availableGeometry());
+  }
   return ToPixelRect(ScreenArea());
 }
 

@@ -59,6 +59,7 @@ class HTMLfrm : public QMainWindow,
   InToTAGFrm& Popup() { return popupForm_; }
   CommandActions& Commands() { return *actions_; }
   StatusPanes& Panes() { return *panes_; }
+  EditorCommands& CommandTarget() { return commands_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -67,6 +68,7 @@ class HTMLfrm : public QMainWindow,
  private:
   void BuildBars();
   void ConnectView();
+  void InstallSubclass();
   void PlaceWindow();
   void SaveSettings();
   void LeaveInstances();

@@ -6,6 +6,7 @@
 
 #include "platform/qt/qt_text.hpp"
 #include "shell/forms/icons.hpp"
+#include "shell/window/editor_commands.hpp"
 
 namespace kestri {
 namespace {
@@ -46,8 +47,8 @@ QAction* CommandActions::MakeAction(const CommandRow& row) {
 
 // Only while their menu is open do items show whether they may run: a shortcut must never meet an item that
 // was left disabled by an earlier state of the text.
-void CommandActions::ShowStates(const QMenu& menu, MenuState state) const {
-  for (QAction* action : menu.actions()) {
+void CommandActions::ShowStates(const QList<QAction*>& actions, MenuState state) const {
+  for (QAction* action : actions) {
     const CommandRow* row = RowOf(*action);
     if (row == nullptr) continue;
     action->setEnabled(state == MenuState::Closed || MayRun(*row));
@@ -64,7 +65,11 @@ QAction* CommandActions::Action(const CommandRow& row) const {
 
 void CommandActions::Run(const CommandRow& row) {
   try {
-    if (row.enabled(commands_)) row.run(commands_);
+    if (row.enabled(commands_)) {
+      row.run(commands_);
+    } else if (row.menu == TopMenu::Edit || row.menu == TopMenu::Html) {
+      commands_.AnswerIfReadOnly();
+    }
   } catch (const std::exception&) {
     tell_.unknownError();
   }
@@ -83,7 +88,13 @@ void CommandActions::BuildMenus(QMenuBar& bar) {
     }
     AddRow(*menu, row);
   }
-  for (const auto& [top, menu] : tops) FollowMenu(*menu);
+  for (const auto& [top, menu] : tops) {
+    FollowMenu(*menu);
+    connect(menu, &QMenu::aboutToShow, this, [this, submenus] {
+      for (const auto& [caption, submenu] : submenus)
+        submenu->setTitle(ToQt(SubmenuCaption(caption, commands_)));
+    });
+  }
   for (const auto& [caption, menu] : submenus) FollowMenu(*menu);
 }
 
@@ -96,10 +107,12 @@ void CommandActions::AddRow(QMenu& menu, const CommandRow& row) {
 }
 
 void CommandActions::FollowMenu(QMenu& menu) {
-  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ShowStates(menu, MenuState::Open); });
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ShowStates(menu.actions(), MenuState::Open); });
   connect(&menu, &QMenu::aboutToHide, this, [this, &menu] {
     tell_.hint(QString());
-    QTimer::singleShot(0, &menu, [this, &menu] { ShowStates(menu, MenuState::Closed); });
+    // Behind the chosen command, which still runs by the state that the menu showed. The menu may be gone by
+    // then.
+    QTimer::singleShot(0, this, [this, actions = menu.actions()] { ShowStates(actions, MenuState::Closed); });
   });
 }
 

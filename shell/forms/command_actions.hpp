@@ -36,7 +36,7 @@ class CommandActions : public QObject {
   void AddRow(QMenu& menu, const CommandRow& row);
   void FollowMenu(QMenu& menu);
   enum class MenuState { Open, Closed };
-  void ShowStates(const QMenu& menu, MenuState state) const;
+  void ShowStates(const QList<QAction*>& actions, MenuState state) const;
 
   EditorCommands& commands_;
   Tell tell_;

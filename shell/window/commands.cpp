@@ -104,6 +104,11 @@ std::u16string_view TopMenuCaption(TopMenu menu) {
   return u"";
 }
 
+std::u16string SubmenuCaption(std::u16string_view submenu, const EditorCommands& commands) {
+  if (submenu != rows::kLineCodeMenu) return std::u16string(submenu);
+  return commands.Transforms().LineCodeCaption() + u"(&E)";
+}
+
 const CommandRow* FindCommand(std::string_view array, int index) {
   const auto row = std::find_if(kRows.begin(), kRows.end(), [&](const CommandRow& candidate) {
     return candidate.array == array && candidate.index == index && !candidate.IsSeparator();

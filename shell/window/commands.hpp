@@ -33,6 +33,8 @@ struct CommandRow {
 std::span<const CommandRow> CommandRows();
 std::u16string_view TopMenuCaption(TopMenu menu);
 std::span<const TopMenu> TopMenus();
+// A submenu's caption in the program's present state; the caption in the rows is its name.
+std::u16string SubmenuCaption(std::u16string_view submenu, const EditorCommands& commands);
 
 // Null when there is no such item.
 const CommandRow* FindCommand(std::string_view array, int index);

@@ -81,6 +81,8 @@ class EditorCommands {
   void ClearHistory();
   void Exit();
 
+  // The answer of a read-only document to a command that would change it; nothing otherwise.
+  void AnswerIfReadOnly() { around_.text.RefuseIfLocked(); }
   void Undo();
   void Redo();
   void Edit(int index);

@@ -14,7 +14,8 @@ std::u16string SettingsReader::Text(std::string_view section, std::string_view k
                                     std::u16string_view defaultValue) const {
   const auto value = content_.Get(section, key);
   if (!value) return std::u16string(defaultValue);
-  return code_page::Decode(code_page::Truncate(*value, kLongestValue));
+  const std::string_view upToNull = std::string_view(*value).substr(0, value->find('\0'));
+  return code_page::Decode(code_page::Truncate(upToNull, kLongestValue));
 }
 
 std::int32_t SettingsReader::Long(std::string_view section, std::string_view key, std::int32_t defaultValue) {

@@ -18,7 +18,7 @@ struct WindowRectangle {
 enum class WindowState { Normal, Minimized, Maximized };
 
 struct PlacementAtStart {
-  bool useSize = false;      // of the rectangle
+  bool useSize = false;      // of the rectangle; the initial one without its position
   bool usePosition = false;  // of the rectangle
   bool maximized = false;
 };

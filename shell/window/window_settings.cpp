@@ -1,5 +1,7 @@
 #include "shell/window/window_settings.hpp"
 
+#include <algorithm>
+
 #include "document/trp_string.hpp"
 #include "shell/common/code_page.hpp"
 
@@ -9,9 +11,12 @@ namespace {
 constexpr char kSetting[] = "Setting";
 constexpr char kBar[] = "Bar";
 
+constexpr std::int16_t kMostTabSpaces = 4;  // the largest level that the settings offer: 16 blanks
+
 void LoadEditing(SettingsReader& reader, ApplicationState& state) {
   state.tabASeT = reader.Integer(kSetting, "TabASeT", 1);
-  state.tabSpaceCount = reader.Integer(kSetting, "TabSpaceCount", 1);
+  state.tabSpaceCount =
+      std::clamp<std::int16_t>(reader.Integer(kSetting, "TabSpaceCount", 1), 0, kMostTabSpaces);
   state.htmlNAV = reader.Integer(kSetting, "htmlNAV", 1);
   state.htmlNAVkeyB = reader.Integer(kSetting, "htmlNAVkeyB", 0);
   state.htmlNAVkeyB_AUTO = reader.Integer(kSetting, "htmlNAVkeyB_AUTO", 1);
@@ -35,7 +40,7 @@ void LoadLook(SettingsReader& reader, WindowSettings& settings) {
   settings.toolBarShow = reader.Integer(kBar, "ToolBarShow0", 1);
   settings.statusBarShow = reader.Integer(kBar, "StatusBar0", 1);
   settings.statusBarHeight = reader.Long(kBar, "StatusBarHeight", 300);
-  settings.timerPeriod = reader.Integer(kSetting, "ClTimer", 2) * 50 + 1;
+  settings.timerPeriod = std::clamp<std::int32_t>(reader.Integer(kSetting, "ClTimer", 2), 1, 5) * 50 + 1;
 }
 
 void LoadPlacement(SettingsReader& reader, WindowSettings& settings) {
@@ -55,7 +60,9 @@ std::u16string WorkingFolder(const ClassCommon& common, const SettingsReader& re
 class SettingsWriter {
  public:
   explicit SettingsWriter(ProfileContent& content) : content_(content) {}
+  // An empty value deletes the key: the next read gives its default.
   void Text(const char* section, const char* key, std::u16string_view value) {
+    if (value.empty()) return content_.DeleteKey(section, key);
     content_.Set(section, key, code_page::Encode(value));
   }
   void Number(const char* section, const char* key, std::int64_t value) { Text(section, key, ToText(value)); }

@@ -86,12 +86,13 @@ KeyRoute RouteOf(const QKeyEvent& event) {
 bool InToTAGFrm::HandleKey(QKeyEvent* event) {
   if (!shown_ || logic_ == nullptr) return false;
   const KeyRoute route = RouteOf(*event);
+  if (event->type() == QEvent::KeyRelease) return route == KeyRoute::Popup;
+  // A shortcut's command runs straight after its override, without a key press.
+  if (route == KeyRoute::CloseThenText) Deactivate();
   if (event->type() == QEvent::ShortcutOverride) {
     if (route == KeyRoute::Popup) event->accept();
     return route == KeyRoute::Popup;
   }
-  if (event->type() == QEvent::KeyRelease) return route == KeyRoute::Popup;
-  if (route == KeyRoute::CloseThenText) Deactivate();
   return route == KeyRoute::Popup && PressKey(*event);
 }
 
@@ -124,6 +125,9 @@ bool InToTAGFrm::FilterTextView(QEvent* event) {
       return HandleKey(static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod:
       return HandleInputMethod(static_cast<QInputMethodEvent*>(event));
+    case QEvent::FocusOut:
+      if (shown_) Deactivate();
+      return false;
     default:
       return false;
   }

@@ -67,7 +67,7 @@ TEST_F(SaveDocument, LineEndAcrossTheGapIsStillOne) {
 
 TEST_F(SaveDocument, UnconvertedTextIsNamedByItsOwnLineEnds) {
   for (const auto& [text, kind] : {std::pair(u"a\rb", u"CR"), std::pair(u"a\nb", u"LF"),
-                                   std::pair(u"a\nb\rc", u"CR+LF"), std::pair(u"a", u"CR+LF")}) {
+                                   std::pair(u"a\nb\rc", u"(不明)"), std::pair(u"a", u"CR+LF")}) {
     state.lineEnd = u"CR+LF";
     control.SetText(text);
     EXPECT_TRUE(document->WriteDocument(Work("a.txt")));

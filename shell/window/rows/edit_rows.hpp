@@ -131,7 +131,7 @@ inline constexpr std::array kEditRows = {
                "edit-copy", Ask<&C::HasSelection>, [](C& c) { c.Edit(1); }},
     CommandRow{TopMenu::Edit, u"", "Edit", 2, u"貼り付け(&P)", u"ｸﾘｯﾌﾟﾎﾞｰﾄﾞの文字列を挿入します", "Ctrl+V",
                "edit-paste", kWritable, [](C& c) { c.Edit(2); }},
-    CommandRow{TopMenu::Edit, u"", "Edit", 3, u"削除(&D)", u"選択範囲を削除します", "", "edit-delete",
+    CommandRow{TopMenu::Edit, u"", "Edit", 3, u"削除", u"選択範囲を削除します", "", "edit-delete",
                Ask<&C::HasSelectionToCut>, [](C& c) { c.Edit(3); }},
     Separator(TopMenu::Edit),
     CommandRow{TopMenu::Edit, u"", "Edit", 5, u"すべて選択(&A)", u"文書全体を選択します", "Ctrl+A",

@@ -6,6 +6,8 @@
 namespace kestri::rows {
 
 inline constexpr std::array kHtmlRows = {
+    CommandRow{TopMenu::Html, u"", "HTMLEdit", 0, u"ﾀｸﾞの解析...", u"ｶｰｿﾙのあるﾀｸﾞを表にして編集します", "",
+               "", kNever, [](C& c) { c.HTMLEdit(0); }},
     CommandRow{TopMenu::Html, u"", "HTMLEdit", 1, u"ﾀｸﾞ候補一覧[補完]",
                u"ｶｰｿﾙの左の語に合うﾀｸﾞの候補を出します", "F2", "kestrile-html-tag", kTagTools,
                [](C& c) { c.HTMLEdit(1); }},

@@ -95,8 +95,21 @@ TEST_F(HTMLfrmTest, AReadOnlyPageAnswersEditCommandsWithABeepAndAMessage) {
   desk.Press(u"<a");
   EXPECT_EQ(ToUtf8(desk.window->Control().Text()), "x");
   desk.window->Control().EM_SETSEL(0, 1);
-  desk.Run("Edit", 1);
-  EXPECT_EQ(desk.services.beeps, 1);
+  int answers = 0;
+  for (const auto& [array, index] : {std::pair{"Edit", 0},
+                                     {"Edit", 1},
+                                     {"Edit", 2},
+                                     {"Edit", 3},
+                                     {"MenUNDO", 0},
+                                     {"HighEdit", 0},
+                                     {"HighEdit", 4},
+                                     {"KakkoMenu", 1},
+                                     {"LineCode", 2},
+                                     {"Day", 0}}) {
+    desk.Run(array, index);
+    EXPECT_EQ(desk.services.beeps, ++answers) << array << index;
+  }
+  EXPECT_EQ(ToUtf8(desk.window->Control().Text()), "x");
   EXPECT_TRUE(desk.Pane(StatusPanes::kMessage).starts_with("読み取り専用で開かれています ["));
 }
 
@@ -286,6 +299,43 @@ TEST_F(HTMLfrmTest, TheLogOfInstancesForgetsAClosedWindow) {
   EXPECT_EQ(desk.folder.Read("Kestri_TEMP_FileLog.INI").find("001FILE=") != std::string::npos, true);
   desk.window->close();
   EXPECT_EQ(desk.folder.Read("Kestri_TEMP_FileLog.INI"), "") << "the last window takes the log along";
+}
+
+TEST_F(HTMLfrmTest, AShortcutClosesThePopupAndRuns) {
+  desk.Open();
+  desk.Press(u"x<a");
+  ASSERT_TRUE(desk.window->Popup().Visible());
+  desk.Press(u"{Ctrl+Z}");
+  EXPECT_FALSE(desk.window->Popup().Visible());
+  EXPECT_EQ(desk.Row(), "‸");
+}
+
+TEST_F(HTMLfrmTest, ThePopupClosesWhenTheTextLosesTheFocus) {
+  desk.Open();
+  desk.Press(u"<");
+  ASSERT_TRUE(desk.window->Popup().Visible());
+  desk.window->menuBar()->setFocus();
+  EXPECT_FALSE(desk.window->Popup().Visible());
+}
+
+TEST_F(HTMLfrmTest, EnterOnTheLastRowInSightScrolls) {
+  desk.Open();
+  for (int i = 0; i < 60; ++i) desk.Press(u"a{Enter}");
+  QApplication::processEvents();
+  EXPECT_NE(desk.window->TextView().GetCaretPixel(), QPoint(-9999, -9999));
+}
+
+TEST_F(HTMLfrmTest, TheLineEndMenuNamesThePresentKind) {
+  desk.Open();
+  desk.Run("LineCode", 1);
+  EXPECT_EQ(SubmenuCaption(u"改行ｺｰﾄﾞ(&E)", desk.window->CommandTarget()), u"改行ｺｰﾄﾞ  [CR](&E)");
+}
+
+TEST_F(HTMLfrmTest, WithoutTheSubclassTheTextIsBare) {
+  desk.Set(u"Setting", u"SubClass", u"0");
+  desk.Open();
+  EXPECT_FALSE(desk.window->TextView().LineNumbers().isVisible());
+  EXPECT_FALSE(desk.window->TextView().LineEndMarksShown());
 }
 
 TEST_F(HTMLfrmTest, PictureOfTheWindowWithItsPopup) {
