@@ -1,6 +1,7 @@
 #include "platform/qt/qt_file_dialog.hpp"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -61,8 +62,10 @@ QCheckBox* AddReadOnlyBox(QFileDialog& dialog) {
   return box;
 }
 
+// By the list's own index: the toolkit tells the row's name without its hidden patterns.
 int RowOf(const QFileDialog& dialog) {
-  return qMax(0, static_cast<int>(dialog.nameFilters().indexOf(dialog.selectedNameFilter()))) + 1;
+  const auto* rows = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+  return rows == nullptr ? 1 : qMax(0, rows->currentIndex()) + 1;
 }
 
 std::optional<FileDialogAnswer> Answer(QFileDialog& dialog) {
