@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QProcess>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolTip>
 
 #include "browse/forms/WinShowFrm.hpp"
@@ -126,6 +127,12 @@ void HTMLfrm::BuildBars() {
                                      }},
                                 this);
   actions_->BuildMenus(*menuBar());
+  for (const SubmenuKey& row : SubmenuKeys()) {
+    const QKeySequence key(QString::fromLatin1(row.key.data(), static_cast<qsizetype>(row.key.size())));
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, submenu = row.submenu] {
+      actions_->PopUp(submenu, view_->viewport()->mapToGlobal(view_->CaretRect().bottomLeft()));
+    });
+  }
   toolBar_ = new ToolBar(*actions_, this);
   addToolBar(toolBar_);
   setStatusBar(panes_);

@@ -77,25 +77,30 @@ void CommandActions::Run(const CommandRow& row) {
 
 void CommandActions::BuildMenus(QMenuBar& bar) {
   std::map<TopMenu, QMenu*> tops;
-  std::map<std::u16string_view, QMenu*> submenus;
   for (const TopMenu top : TopMenus()) tops[top] = bar.addMenu(ToQt(TopMenuCaption(top)));
   for (const CommandRow& row : CommandRows()) {
     QMenu* menu = tops.at(row.menu);
-    if (!row.submenu.empty()) {
-      QMenu*& submenu = submenus[row.submenu];
-      if (submenu == nullptr) submenu = menu->addMenu(ToQt(row.submenu));
-      menu = submenu;
-    }
-    AddRow(*menu, row);
+    AddRow(row.submenu.empty() ? *menu : Submenu(*menu, row.submenu), row);
   }
-  for (const auto& [top, menu] : tops) {
-    FollowMenu(*menu);
-    connect(menu, &QMenu::aboutToShow, this, [this, submenus] {
-      for (const auto& [caption, submenu] : submenus)
-        submenu->setTitle(ToQt(SubmenuCaption(caption, commands_)));
-    });
-  }
-  for (const auto& [caption, menu] : submenus) FollowMenu(*menu);
+  for (const auto& [top, menu] : tops) FollowMenu(*menu);
+  for (const auto& [caption, menu] : submenus_) FollowMenu(*menu);
+}
+
+QMenu& CommandActions::Submenu(QMenu& top, std::u16string_view caption) {
+  if (const auto known = submenus_.find(caption); known != submenus_.end()) return *known->second;
+  const std::u16string_view parent = ParentSubmenu(caption);
+  QMenu* made = (parent.empty() ? top : Submenu(top, parent)).addMenu(ToQt(caption));
+  submenus_.emplace(caption, made);
+  return *made;
+}
+
+void CommandActions::PopUp(std::u16string_view submenu, QPoint at) {
+  submenus_.at(submenu)->popup(at);
+}
+
+void CommandActions::ShowSubmenuCaptions() {
+  for (const auto& [caption, submenu] : submenus_)
+    submenu->setTitle(ToQt(SubmenuCaption(caption, commands_)));
 }
 
 void CommandActions::AddRow(QMenu& menu, const CommandRow& row) {
@@ -107,7 +112,10 @@ void CommandActions::AddRow(QMenu& menu, const CommandRow& row) {
 }
 
 void CommandActions::FollowMenu(QMenu& menu) {
-  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { ShowStates(menu.actions(), MenuState::Open); });
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] {
+    ShowSubmenuCaptions();
+    ShowStates(menu.actions(), MenuState::Open);
+  });
   connect(&menu, &QMenu::aboutToHide, this, [this, &menu] {
     tell_.hint(QString());
     // Behind the chosen command, which still runs by the state that the menu showed. The menu may be gone by

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QObject>
 #include <functional>
+#include <map>
 #include <vector>
 
 #include "shell/window/commands.hpp"
@@ -23,6 +24,8 @@ class CommandActions : public QObject {
 
   void BuildMenus(QMenuBar& bar);
   void AddIcons();
+  // Opens a submenu by itself, in global pixels.
+  void PopUp(std::u16string_view submenu, QPoint at);
   // The items of the given rows with their present enabled state, as a context menu.
   void FillMenu(QMenu& menu, std::span<const CommandRow* const> rows);
 
@@ -34,12 +37,15 @@ class CommandActions : public QObject {
  private:
   QAction* MakeAction(const CommandRow& row);
   void AddRow(QMenu& menu, const CommandRow& row);
+  QMenu& Submenu(QMenu& top, std::u16string_view caption);
+  void ShowSubmenuCaptions();
   void FollowMenu(QMenu& menu);
   enum class MenuState { Open, Closed };
   void ShowStates(const QList<QAction*>& actions, MenuState state) const;
 
   EditorCommands& commands_;
   Tell tell_;
+  std::map<std::u16string_view, QMenu*> submenus_;
   std::vector<QAction*> actions_;  // by the row's place in CommandRows(); null for separators
 };
 

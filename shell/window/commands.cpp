@@ -104,6 +104,18 @@ std::u16string_view TopMenuCaption(TopMenu menu) {
   return u"";
 }
 
+std::u16string_view ParentSubmenu(std::u16string_view submenu) {
+  const bool inAdvanced2 =
+      submenu == rows::kBracketMenu || submenu == rows::kLineCodeMenu || submenu == rows::kDayMenu;
+  return inAdvanced2 ? rows::kAdvanced2 : std::u16string_view();
+}
+
+std::span<const SubmenuKey> SubmenuKeys() {
+  static constexpr std::array<SubmenuKey, 2> kKeys = {
+      {{rows::kAdvanced1, "Alt+Left"}, {rows::kAdvanced2, "Alt+Right"}}};
+  return kKeys;
+}
+
 std::u16string SubmenuCaption(std::u16string_view submenu, const EditorCommands& commands) {
   if (submenu != rows::kLineCodeMenu) return std::u16string(submenu);
   return commands.Transforms().LineCodeCaption() + u"(&E)";

@@ -33,6 +33,14 @@ struct CommandRow {
 std::span<const CommandRow> CommandRows();
 std::u16string_view TopMenuCaption(TopMenu menu);
 std::span<const TopMenu> TopMenus();
+// The submenu that holds this one; empty: it stands in the top-level menu.
+std::u16string_view ParentSubmenu(std::u16string_view submenu);
+// Keys that open a submenu at the caret.
+struct SubmenuKey {
+  std::u16string_view submenu;
+  std::string_view key;
+};
+std::span<const SubmenuKey> SubmenuKeys();
 // A submenu's caption in the program's present state; the caption in the rows is its name.
 std::u16string SubmenuCaption(std::u16string_view submenu, const EditorCommands& commands);
 

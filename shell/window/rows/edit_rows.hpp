@@ -8,7 +8,8 @@
 
 namespace kestri::rows {
 
-inline constexpr std::u16string_view kAdvanced1 = u"高度な操作1(Ex&1)";
+inline constexpr std::u16string_view kAdvanced1 = u"高度な操作1(Ex&1)\tAlt+←";
+inline constexpr std::u16string_view kAdvanced2 = u"高度な操作2(Ex&2)\tAlt+→";
 
 inline constexpr std::u16string_view kBracketMenu = u"ｶｯｺで囲む(&K)";
 inline constexpr std::u16string_view kLineCodeMenu = u"改行ｺｰﾄﾞ(&E)";

@@ -331,6 +331,23 @@ TEST_F(HTMLfrmTest, TheLineEndMenuNamesThePresentKind) {
   EXPECT_EQ(SubmenuCaption(u"改行ｺｰﾄﾞ(&E)", desk.window->CommandTarget()), u"改行ｺｰﾄﾞ  [CR](&E)");
 }
 
+TEST_F(HTMLfrmTest, AltAndAnArrowOpenTheAdvancedMenusAtTheCaret) {
+  desk.Open();
+  desk.Press(u"{Alt+Left}");
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->title(), QStringLiteral("高度な操作1(Ex&1)\tAlt+←"));
+  menu->close();
+  desk.Press(u"{Alt+Right}");
+  menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QStringList captions;
+  for (const QAction* action : menu->actions()) captions << action->text();
+  EXPECT_EQ(captions, (QStringList{QStringLiteral("ｶｯｺで囲む(&K)"), QStringLiteral("改行ｺｰﾄﾞ  [CR + LF](&E)"),
+                                   QStringLiteral("日付と時刻の挿入(&I)")}));
+  menu->close();
+}
+
 TEST_F(HTMLfrmTest, WithoutTheSubclassTheTextIsBare) {
   desk.Set(u"Setting", u"SubClass", u"0");
   desk.Open();
