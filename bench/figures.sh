@@ -12,14 +12,16 @@ trap 'kill "$display" 2>/dev/null || true; rm -rf "$work"' EXIT
 export HOME=$work XDG_STATE_HOME=$work XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
 chmod 700 "$work"
 exec {pipe}<> <(:)
-Xvfb -displayfd "$pipe" -screen 0 1280x900x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+Xvfb -displayfd "$pipe" -screen 0 1280x900x24 -nolisten tcp -noreset >"$work/xvfb.log" 2>&1 &
 display=$!
 read -r -t 20 number <&"$pipe"
 export DISPLAY=":$number"
 
+line='<P class="note">駅から川沿いの道を歩きました。桜はまだ三分咲きです。<A href="album.html">album</A></P>'
+printf '%s\r\n' "$line" | iconv -f utf-8 -t cp932 >"$work/line"
 page() { # bytes, path
-  local line='<P class="note">駅から川沿いの道を歩きました。桜はまだ三分咲きです。<A href="album.html">album</A></P>'
-  yes "$line"$'\r' | iconv -t cp932 | head -c "$1" >"$2" || true
+  local rows=$(($1 / $(wc -c <"$work/line") + 1))
+  LC_ALL=C awk -v rows="$rows" '{ for (i = 0; i < rows; i++) print }' "$work/line" >"$2"
 }
 page 2000 "$work/small.htm"
 page 10000000 "$work/10.htm"
