@@ -10,7 +10,7 @@ namespace {
 class Backups : public DocumentTest {
  protected:
   void SetUp() override {
-    std::filesystem::create_directory(folder.Path() / "backup");
+    std::filesystem::create_directory(std::filesystem::path(folder.Path()) / "backup");
     Set(u"Path", u"UserBackUp", Whole("backup"));
   }
   std::u16string Change(const std::string& name = "a.txt") {
@@ -21,7 +21,7 @@ class Backups : public DocumentTest {
   }
   std::vector<std::string> Copies() const {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path() / "backup")) {
+    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(folder.Path()) / "backup")) {
       names.push_back(entry.path().filename().string());
     }
     return names;
@@ -73,7 +73,7 @@ TEST_F(Backups, MissingFolderIsMade) {
   Set(u"Path", u"UserBackUp", Whole("new/deep"));
   Change();
   EXPECT_TRUE(document->OverwriteSave());
-  EXPECT_FALSE(std::filesystem::is_empty(folder.Path() / "new" / "deep"));
+  EXPECT_FALSE(std::filesystem::is_empty(std::filesystem::path(folder.Path()) / "new" / "deep"));
 }
 
 TEST_F(Backups, SpokenNoMeansNoBackup) {

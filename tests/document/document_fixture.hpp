@@ -22,26 +22,9 @@
 #include "shell/common/text.hpp"
 #include "tests/fakes/document_recorder.hpp"
 #include "tests/fakes/ports.hpp"
+#include "tests/fakes/temporary_folder.hpp"
 
 namespace kestri {
-
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "kestri-document-XXXXXX").string();
-    path_ = ::mkdtemp(pattern.data());
-  }
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 // The real file system, with faults on demand.
 class FaultyFileSystem : public PosixFileSystem {
@@ -81,7 +64,7 @@ class DocumentTest : public ::testing::Test {
  protected:
   DocumentTest() {
     for (const char* name : {"program", "state", "documents", "work"}) {
-      std::filesystem::create_directory(folder.Path() / name);
+      std::filesystem::create_directory(std::filesystem::path(folder.Path()) / name);
     }
     environment.executable = Whole("program/Kestri");
     environment.folders[SystemFolder::Windows] = Whole("state");
@@ -95,11 +78,13 @@ class DocumentTest : public ::testing::Test {
   }
   ~DocumentTest() override { control.SetEvents(nullptr); }
 
-  std::u16string Whole(const std::string& name) const { return FromUtf8((folder.Path() / name).string()); }
+  std::u16string Whole(const std::string& name) const {
+    return FromUtf8((std::filesystem::path(folder.Path()) / name).string());
+  }
   std::u16string Work(const std::string& name) const { return Whole("work/" + name); }
 
   std::u16string MakeFile(const std::string& name, std::string_view bytes) {
-    const auto path = folder.Path() / "work" / name;
+    const auto path = std::filesystem::path(folder.Path()) / "work" / name;
     std::ofstream(path, std::ios::binary) << bytes;
     return FromUtf8(path.string());
   }
@@ -152,7 +137,7 @@ class DocumentTest : public ::testing::Test {
     int changes = 0;
   };
 
-  TemporaryFolder folder;
+  fakes::TemporaryFolder folder;
   FaultyFileSystem files;
   fakes::FakeEnvironment environment;
   fakes::FakeShell shell;

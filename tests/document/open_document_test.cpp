@@ -325,7 +325,7 @@ TEST_F(OpenDocument, DamagedOrTooLargePositionsAreHarmless) {
 TEST_F(OpenDocument, RelativePathBecomesAWholeOne) {
   const auto here = std::filesystem::current_path();
   const auto path = MakeFile("relative.txt", "a\r\n");
-  std::filesystem::current_path(folder.Path() / "work");
+  std::filesystem::current_path(std::filesystem::path(folder.Path()) / "work");
   EXPECT_TRUE(Open(u"relative.txt"));
   std::filesystem::current_path(here);
   EXPECT_EQ(state.currentFile, common->GetLongPath(path));

@@ -88,7 +88,7 @@ TEST(ConvertTextToHtml, TheResultIsAllocatedOnce) {
 class TextToHtmlTest : public DocumentTest {
  protected:
   TextToHtmlTest() {
-    std::filesystem::create_directory(folder.Path() / "tmp");
+    std::filesystem::create_directory(std::filesystem::path(folder.Path()) / "tmp");
     environment.folders[SystemFolder::Temporary] = Whole("tmp");
     conversion.emplace(*document, *common, boxes);
   }
@@ -97,7 +97,7 @@ class TextToHtmlTest : public DocumentTest {
     return conversion->Convert(source, options) && conversion->OpenTarget();
   }
   std::string Page() const { return Bytes(conversion->TargetPath()); }
-  bool TemporaryFolderIsEmpty() const { return std::filesystem::is_empty(folder.Path() / "tmp"); }
+  bool TemporaryFolderIsEmpty() const { return std::filesystem::is_empty(std::filesystem::path(folder.Path()) / "tmp"); }
   void ExpectFailureBox(const MessageRequest& box) const {
     ExpectBox(box, u"HTMLに変換して開く",
               u"ﾃｷｽﾄのHTML型変換に失敗しました!! \r\n\r\n"

@@ -2,17 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
 #include "platform/posix/posix_file_system.hpp"
 #include "tests/fakes/ports.hpp"
+#include "tests/fakes/temporary_folder.hpp"
 
 namespace kestri {
 namespace {
-
-namespace fs = std::filesystem;
 
 class Editor : public StartupEditor {
  public:
@@ -29,22 +24,19 @@ class Editor : public StartupEditor {
 class ClassMainTest : public testing::Test {
  protected:
   ClassMainTest() {
-    char pattern[] = "/tmp/kestrile-start-XXXXXX";
-    folder_ = mkdtemp(pattern);
-    environment_.executable = FromUtf8((folder_ / "Kestri").string());
+    environment_.executable = folder_.Text(u"Kestri");
     environment_.processes = {environment_.executable};
-    environment_.folders[SystemFolder::Windows] = FromUtf8(folder_.string());
-    environment_.folders[SystemFolder::System] = FromUtf8(folder_.string());
+    environment_.folders[SystemFolder::Windows] = folder_.Text();
+    environment_.folders[SystemFolder::System] = folder_.Text();
   }
-  ~ClassMainTest() override { fs::remove_all(folder_); }
 
   std::int32_t Start(std::u16string_view line) {
     const ClassCommon common({files_, environment_, shell_, clock_, window_}, PathStyle::Posix);
     return ClassMain(common, state_, boxes_, editor_).Main(line);
   }
-  void WriteSettings(const char* text) { std::ofstream(folder_ / "Kestri.ini") << text; }
+  void WriteSettings(const char* text) { folder_.Write("Kestri.ini", text); }
 
-  fs::path folder_;
+  fakes::TemporaryFolder folder_;
   PosixFileSystem files_;
   fakes::FakeEnvironment environment_;
   fakes::FakeShell shell_;

@@ -2,31 +2,23 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
 #include "platform/posix/posix_file_system.hpp"
 #include "tests/fakes/ports.hpp"
+#include "tests/fakes/temporary_folder.hpp"
 
 namespace kestri {
 namespace {
 
-namespace fs = std::filesystem;
-
 class CommandLineTest : public testing::Test {
  protected:
   CommandLineTest() {
-    char pattern[] = "/tmp/kestrile-command-line-XXXXXX";
-    folder_ = mkdtemp(pattern);
-    std::ofstream(folder_ / "a b.htm") << "x";
+    folder_.Write("a b.htm", "x");
   }
-  ~CommandLineTest() override { fs::remove_all(folder_); }
 
   StartMode Mode(std::u16string_view line) { return ModeOf(line, common_); }
-  std::u16string Path(const char* name) { return FromUtf8((folder_ / name).string()); }
+  std::u16string Path(const char* name) { return FromUtf8(folder_.Path(name)); }
 
-  fs::path folder_;
+  fakes::TemporaryFolder folder_;
   PosixFileSystem files_;
   fakes::FakeEnvironment environment_;
   fakes::FakeShell shell_;
@@ -53,7 +45,7 @@ TEST_F(CommandLineTest, APathWithBlanksIsOnePathQuotedOrNot) {
 
 TEST_F(CommandLineTest, AnExistingAbsolutePathIsAFileThoughItBeginsWithASlash) {
   EXPECT_EQ(Mode(Path("a b.htm")), StartMode::File);
-  EXPECT_EQ(Mode(FromUtf8(folder_.string())), StartMode::File);
+  EXPECT_EQ(Mode(folder_.Text()), StartMode::File);
 }
 
 TEST_F(CommandLineTest, ANewNameInAnExistingFolderIsAFile) {
