@@ -22,7 +22,7 @@ namespace {
 class HenFrmTest : public DocumentTest {
  protected:
   HenFrmTest() {
-    std::filesystem::create_directory(folder.Path() / "tmp");
+    std::filesystem::create_directory(std::filesystem::path(folder.Path()) / "tmp");
     environment.folders[SystemFolder::Temporary] = Whole("tmp");
     conversion.emplace(*document, *common, boxes);
     form.emplace(*conversion, dialogs, nullptr);
