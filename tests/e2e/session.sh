@@ -33,12 +33,20 @@ start_display() {
   read -r -t 20 number <&"$display_pipe"
   export DISPLAY=":$number"
   unset WAYLAND_DISPLAY
-  openbox --sm-disable >"$work/openbox.log" 2>&1 &
-  processes+=($!)
   await window_manager_answers
 }
 
-window_manager_answers() { xprop -root _NET_SUPPORTED | grep -q _NET_ACTIVE_WINDOW; }
+# A window manager that ended before it took the display over is started again.
+window_manager=
+window_manager_answers() {
+  if [ -z "$window_manager" ] || ! kill -0 "$window_manager"; then
+    openbox --sm-disable >>"$work/openbox.log" 2>&1 &
+    window_manager=$!
+    processes+=("$window_manager")
+    sleep 0.2
+  fi
+  [[ $(xprop -root _NET_SUPPORTED) == *_NET_ACTIVE_WINDOW* ]]
+}
 
 # A home of its own, and a copy of the staged folder: nothing of the user's is touched.
 private_home() {
