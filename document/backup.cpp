@@ -37,7 +37,7 @@ bool Backup::Make(std::u16string_view path) const {
   if (!common_.MakeDirectory(copy)) {
     return Refuse(u"ﾊﾞｯｸｱｯﾌﾟﾌｧｲﾙの作成先が不明です", u"ﾊﾟｽを設定し直して下さい", copy);
   }
-  if (!common_.FileEdit(ClassCommon::FileOperation::Copy, path, copy)) {
+  if (!common_.FileEdit(ClassCommon::FileOperation::Copy, path, copy, kMultipleDestinations)) {
     return Refuse(u"ﾊﾞｯｸｱｯﾌﾟﾌｧｲﾙが作成できません", u"ﾃﾞｨｽｸ用理量 ﾌﾟﾛﾃｸﾄ を確認して下さい", copy);
   }
   if (IsTrue(common_.GetINI(common_.ExeName(), u"Setting", u"ArcUnLha", u"0"))) Pack(copy);

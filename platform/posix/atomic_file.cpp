@@ -7,6 +7,7 @@
 #include "platform/posix/block_writer.hpp"
 #include "platform/posix/file_traits.hpp"
 #include "platform/posix/in_place_file.hpp"
+#include "platform/posix/leftover_files.hpp"
 #include "platform/posix/native_path.hpp"
 #include "platform/posix/xdg_folders.hpp"
 
@@ -55,14 +56,18 @@ bool AtomicFile::Replace(const std::string& path, const FileSystem::ByteProducer
 }
 
 std::optional<StagingFile> AtomicFile::StageForRename(const std::string& target, const struct stat* old) {
-  auto opened = CreateHiddenFile(calls_, FolderOf(target), old == nullptr ? kNewFileMode : kPrivateMode);
+  const std::string folder = FolderOf(target);
+  if (durability_ != Durability::Renamed) RemoveLeftovers(folder);
+  auto opened = CreateHiddenFile(calls_, folder, old != nullptr || original_ ? kPrivateMode : kNewFileMode);
   if (!opened.file) {
     overwriteMayHelp_ = overwriteMayHelp_ && IsRefusal(opened.error);
     return std::nullopt;
   }
   if (old == nullptr) return std::move(opened.file);
-  if (!KeepOwnerAndMode(calls_, opened.file->Get(), *old)) return std::nullopt;
-  KeepAttributes(opened.file->Get(), target);
+  struct stat kept = *old;
+  if (original_) kept.st_mode = S_IFREG | kPrivateMode;
+  if (!KeepOwnerAndMode(calls_, opened.file->Get(), kept)) return std::nullopt;
+  if (!original_) KeepAttributes(opened.file->Get(), target);
   return std::move(opened.file);
 }
 
@@ -80,7 +85,20 @@ bool AtomicFile::Fill(StagingFile& staging, const FileSystem::ByteProducer& prod
   const bool produced =
       producer([&](std::string_view bytes) { return written = written && writer.Append(bytes); });
   if (!produced || !written || !writer.Flush()) return false;
-  return durability_ == Durability::Renamed || calls_.Sync(staging.Get()) == 0;
+  if (original_) GiveTraits(calls_, staging.Get(), *original_);
+  return SyncContent(staging.Get());
+}
+
+bool AtomicFile::SyncContent(int file) {
+  switch (durability_) {
+    case Durability::Synced:
+      return calls_.Sync(file) == 0;
+    case Durability::Ordered:
+      return calls_.SyncData(file) == 0;
+    case Durability::Renamed:
+      break;
+  }
+  return true;
 }
 
 bool AtomicFile::RenameOver(StagingFile& staging, const std::string& target) {
@@ -93,7 +111,12 @@ bool AtomicFile::RenameOver(StagingFile& staging, const std::string& target) {
 
 bool AtomicFile::WriteOver(StagingFile& staging, const std::string& target) {
   if (durability_ == Durability::Renamed && calls_.Sync(staging.Get()) != 0) return false;
-  return SyncFolder(FolderOf(staging.Path())) && OverwriteInPlace(calls_, staging, target);
+  if (!SyncFolder(FolderOf(staging.Path())) || !OverwriteInPlace(calls_, staging, target)) return false;
+  if (original_) {
+    const OpenFile written(calls_, calls_.Open(target, O_RDWR | O_NOFOLLOW, 0));
+    if (written.IsOpen()) GiveTraits(calls_, written.Get(), *original_);
+  }
+  return true;
 }
 
 bool AtomicFile::SyncFolder(const std::string& folder) {

@@ -9,6 +9,7 @@ namespace kestri::posix {
 namespace {
 
 constexpr mode_t kModeBits = 07777;
+constexpr mode_t kAccessBits = 0777;
 
 std::string AttributeNames(const char* path) {
   const ssize_t size = ::listxattr(path, nullptr, 0);
@@ -36,6 +37,13 @@ bool KeepOwnerAndMode(PosixCalls& calls, int file, const struct stat& old) {
   if (!ownerStays && calls.ChangeOwner(file, old.st_uid, old.st_gid) != 0) return false;
   const bool modeStays = ownerStays && made.st_mode == old.st_mode;
   return modeStays || calls.ChangeMode(file, old.st_mode & kModeBits) == 0;
+}
+
+void GiveTraits(PosixCalls& calls, int copy, const Original& original) {
+  calls.ChangeMode(copy, original.status.st_mode & kAccessBits);
+  KeepAttributes(copy, original.path);
+  const timespec times[] = {original.status.st_atim, original.status.st_mtim};
+  ::futimens(copy, times);
 }
 
 void KeepAttributes(int file, const std::string& oldPath) {

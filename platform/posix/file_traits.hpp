@@ -13,6 +13,16 @@ namespace kestri::posix {
 // False when the new file cannot be given the old one's owner, group and mode.
 bool KeepOwnerAndMode(PosixCalls& calls, int file, const struct stat& old);
 
+// A file that is copied.
+struct Original {
+  std::string path;
+  struct stat status {};
+};
+
+// Gives a copy the original's mode without the set-id bits, its attributes and its times. Best effort: on a
+// volume without modes the copy is no worse for it.
+void GiveTraits(PosixCalls& calls, int copy, const Original& original);
+
 // Best effort: a volume without attributes is no reason to refuse a save.
 void KeepAttributes(int file, const std::string& oldPath);
 

@@ -39,6 +39,10 @@ int PosixCalls::Sync(int file) {
   return ::fsync(file);
 }
 
+int PosixCalls::SyncData(int file) {
+  return ::fdatasync(file);
+}
+
 int PosixCalls::Close(int file) {
   return ::close(file);
 }

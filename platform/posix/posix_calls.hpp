@@ -21,6 +21,7 @@ class PosixCalls {
   // Makes sure that the disk has room for that many bytes; the file's size stays.
   virtual int Reserve(int file, off_t size);
   virtual int Sync(int file);
+  virtual int SyncData(int file);  // the content and what is needed to read it
   virtual int Close(int file);
   virtual int ChangeOwner(int file, uid_t user, gid_t group);
   virtual int ChangeMode(int file, mode_t mode);

@@ -3,16 +3,18 @@
 #include <dirent.h>
 #include <errno.h>
 #include <fcntl.h>
+#include <limits.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <exception>
 
-#include "platform/posix/block_writer.hpp"
+#include "platform/posix/appended_bytes.hpp"
 #include "platform/posix/file_locks.hpp"
 #include "platform/posix/native_path.hpp"
 #include "platform/posix/xdg_folders.hpp"
@@ -100,6 +102,10 @@ std::string LockKey(const std::string& path) {
   return CanonicalNative(posix::FolderOf(target)) + "/" + posix::NameOf(target);
 }
 
+std::string RecoveryFolder() {
+  return posix::StateFolder() + "/recovery";
+}
+
 std::string LockFolder() {
   const char* runtime = ::getenv("XDG_RUNTIME_DIR");
   if (runtime != nullptr && runtime[0] == '/') {
@@ -119,6 +125,8 @@ std::optional<FileStatus> PosixFileSystem::Status(std::u16string_view path) {
   result.attributes = AttributesOf(*native, status);
   result.size = S_ISREG(status.st_mode) ? static_cast<std::uint64_t>(status.st_size) : 0;
   result.modified = status.st_mtim.tv_sec;
+  result.modifiedNanoseconds = static_cast<std::int32_t>(status.st_mtim.tv_nsec);
+  result.inode = status.st_ino;
   return result;
 }
 
@@ -135,6 +143,10 @@ bool PosixFileSystem::Replace(std::u16string_view path, const ByteProducer& prod
   return ReplaceWith(path, producer, posix::Durability::Synced);
 }
 
+bool PosixFileSystem::ReplaceOrdered(std::u16string_view path, const ByteProducer& producer) {
+  return ReplaceWith(path, producer, posix::Durability::Ordered);
+}
+
 bool PosixFileSystem::ReplaceUnsynced(std::u16string_view path, const ByteProducer& producer) {
   return ReplaceWith(path, producer, posix::Durability::Renamed);
 }
@@ -143,7 +155,7 @@ bool PosixFileSystem::ReplaceWith(std::u16string_view path, const ByteProducer& 
                                   posix::Durability durability) try {
   const auto native = NativePath(path);
   if (!native) return false;
-  posix::AtomicFile file(calls_, posix::StateFolder() + "/recovery", durability);
+  posix::AtomicFile file(calls_, RecoveryFolder(), durability);
   return file.Replace(*native, producer);
 } catch (const std::exception&) {
   return false;
@@ -152,11 +164,10 @@ bool PosixFileSystem::ReplaceWith(std::u16string_view path, const ByteProducer& 
 bool PosixFileSystem::Append(std::u16string_view path, std::string_view bytes) {
   const auto native = NativePath(path);
   if (!native) return false;
-  const Readable opened = OpenRegular(calls_, *native, O_WRONLY | O_APPEND | O_CREAT, 0666);
-  if (!opened.file.IsOpen()) return false;
-  if (posix::WriteWhole(calls_, opened.file.Get(), bytes)) return true;
-  calls_.Truncate(opened.file.Get(), static_cast<off_t>(opened.size));
-  return false;
+  const auto lock = Lock(path);
+  const Readable opened = OpenRegular(calls_, *native, O_RDWR | O_APPEND | O_CREAT, 0666);
+  return opened.file.IsOpen() &&
+         posix::AppendBytes(calls_, opened.file.Get(), static_cast<off_t>(opened.size), bytes);
 }
 
 bool PosixFileSystem::Remove(std::u16string_view path) {
@@ -164,24 +175,22 @@ bool PosixFileSystem::Remove(std::u16string_view path) {
   return native && ::unlink(native->c_str()) == 0;
 }
 
-bool PosixFileSystem::Copy(std::u16string_view from, std::u16string_view to) {
+bool PosixFileSystem::Copy(std::u16string_view from, std::u16string_view to) try {
   const auto source = NativePath(from);
   const auto target = NativePath(to);
   struct stat status {};
   if (!source || !target || ::stat(source->c_str(), &status) != 0) return false;
   const std::string same = CanonicalNative(*source);
   if (!same.empty() && same == CanonicalNative(*target)) return false;
-  bool read = false;
-  const bool written = Replace(to, [&](const ByteConsumer& write) {
+  posix::AtomicFile file(calls_, RecoveryFolder(), posix::Durability::Synced);
+  file.TakeTraitsOf(*source, status);
+  return file.Replace(*target, [&](const ByteConsumer& write) {
     bool accepted = true;
-    read = Read(from, [&](std::string_view bytes) { return accepted = write(bytes); });
+    const bool read = Read(from, [&](std::string_view bytes) { return accepted = write(bytes); });
     return read && accepted;
   });
-  if (!written) return false;
-  ::chmod(target->c_str(), status.st_mode & 07777);
-  const timespec times[] = {status.st_atim, status.st_mtim};
-  ::utimensat(AT_FDCWD, target->c_str(), times, 0);
-  return true;
+} catch (const std::exception&) {
+  return false;
 }
 
 bool PosixFileSystem::CreateFolder(std::u16string_view path) {
@@ -208,6 +217,15 @@ bool PosixFileSystem::CreateLink(std::u16string_view target, std::u16string_view
   const auto nativeTarget = NativePath(target);
   const auto nativeLink = NativePath(link);
   return nativeTarget && nativeLink && ::symlink(nativeTarget->c_str(), nativeLink->c_str()) == 0;
+}
+
+std::optional<std::u16string> PosixFileSystem::LinkText(std::u16string_view path) {
+  const auto native = NativePath(path);
+  if (!native) return std::nullopt;
+  std::array<char, PATH_MAX> buffer;
+  const ssize_t length = ::readlink(native->c_str(), buffer.data(), buffer.size());
+  if (length <= 0 || length == static_cast<ssize_t>(buffer.size())) return std::nullopt;
+  return posix::PathText({buffer.data(), static_cast<std::size_t>(length)});
 }
 
 std::u16string PosixFileSystem::Canonical(std::u16string_view path) {

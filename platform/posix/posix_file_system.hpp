@@ -20,6 +20,7 @@ class PosixFileSystem : public FileSystem {
   std::optional<FileStatus> Status(std::u16string_view path) override;
   bool Read(std::u16string_view path, const ByteConsumer& consumer) override;
   bool Replace(std::u16string_view path, const ByteProducer& producer) override;
+  bool ReplaceOrdered(std::u16string_view path, const ByteProducer& producer) override;
   bool ReplaceUnsynced(std::u16string_view path, const ByteProducer& producer) override;
   bool Append(std::u16string_view path, std::string_view bytes) override;
   bool Remove(std::u16string_view path) override;
@@ -28,6 +29,7 @@ class PosixFileSystem : public FileSystem {
   bool RemoveFolder(std::u16string_view path) override;
   bool Rename(std::u16string_view from, std::u16string_view to) override;
   bool CreateLink(std::u16string_view target, std::u16string_view link) override;
+  std::optional<std::u16string> LinkText(std::u16string_view path) override;
   std::u16string Canonical(std::u16string_view path) override;
   std::vector<std::u16string> List(std::u16string_view folder) override;
   std::uint64_t FolderSize(std::u16string_view folder) override;

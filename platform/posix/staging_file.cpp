@@ -2,6 +2,7 @@
 
 #include <errno.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/random.h>
 
 #include <cstdint>
@@ -12,14 +13,16 @@ namespace {
 
 constexpr mode_t kPrivateMode = 0600;
 constexpr int kMostNames = 100;
+constexpr std::string_view kHiddenHead = ".kestrile-";
+constexpr std::size_t kHiddenDigits = 16;
 
 std::string HiddenName() {
   std::uint64_t number = 0;
   while (::getrandom(&number, sizeof number, 0) != sizeof number) {
   }
-  char text[32];
-  std::snprintf(text, sizeof text, ".kestrile-%016llx", static_cast<unsigned long long>(number));
-  return text;
+  char digits[kHiddenDigits + 1];
+  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(number));
+  return std::string(kHiddenHead) + digits;
 }
 
 std::string RecoveryName(const std::string& name, int count) {
@@ -44,8 +47,14 @@ void StagingFile::Remove() {
 StagingResult CreateHiddenFile(PosixCalls& calls, const std::string& folder, mode_t mode) {
   for (int count = 0;; ++count) {
     StagingResult opened = Create(calls, folder + "/" + HiddenName(), mode);
+    if (opened.file) ::flock(opened.file->Get(), LOCK_EX | LOCK_NB);
     if (opened.error != EEXIST || count == kMostNames) return opened;
   }
+}
+
+bool IsHiddenFileName(std::string_view name) {
+  return name.size() == kHiddenHead.size() + kHiddenDigits && name.starts_with(kHiddenHead) &&
+         name.find_first_not_of("0123456789abcdef", kHiddenHead.size()) == name.npos;
 }
 
 StagingResult CreateRecoveryFile(PosixCalls& calls, const std::string& folder, const std::string& name) {

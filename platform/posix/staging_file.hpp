@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/posix/posix_calls.hpp"
 
@@ -40,8 +41,12 @@ struct StagingResult {
   int error = 0;  // errno of the failed creation
 };
 
-// An unpredictable hidden name.
+// An unpredictable hidden name. The file is locked for as long as it is open, which tells a living save from
+// a killed one.
 StagingResult CreateHiddenFile(PosixCalls& calls, const std::string& folder, mode_t mode);
+
+// Whether the name is of the form that CreateHiddenFile gives.
+bool IsHiddenFileName(std::string_view name);
 
 // "<name>.kestrile-recovery", with a number behind it when that is taken.
 StagingResult CreateRecoveryFile(PosixCalls& calls, const std::string& folder, const std::string& name);

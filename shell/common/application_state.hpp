@@ -40,6 +40,8 @@ struct ApplicationState {
   std::int16_t popUpMen = 1;
   std::int16_t gLine = 0;
   std::int16_t menuHints = 1;
+  std::int16_t menuAnimation = 0;
+  std::int16_t showInfoOnSelect = 0;  // the file pane tells a file's data when it is selected
 
   // 0: splash is up, or the owner window under /CL; 1: command-line mode; 2: unused.
   std::array<std::int64_t, 3> startupState{};

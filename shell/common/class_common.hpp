@@ -29,6 +29,13 @@ enum FileType : std::int32_t {
   kFileTypeOther = 9999,
 };
 
+// Flags of FileEdit, numbered as the platform's own call has them. Its other ones are about windows and questions
+// of that call, or the wastebasket, and change nothing here.
+enum FileEditFlag : std::uint32_t {
+  kMultipleDestinations = 1,  // to names the new path itself, one for each path in from
+  kRenameOnCollision = 8,     // a path that is taken gets a number: "a (2).htm"
+};
+
 struct Ports {
   FileSystem& files;
   Environment& environment;
@@ -102,7 +109,11 @@ class ClassCommon {
   std::u16string GetFileAttribute(std::u16string_view path) const;
   bool KillFile(std::u16string_view path) const;
   enum class FileOperation : std::uint32_t { Move = 1, Copy = 2, Delete = 3, Rename = 4 };
-  bool FileEdit(FileOperation operation, std::u16string_view from, std::u16string_view to) const;
+  // Several paths in one list are separated by NULs. Without kMultipleDestinations a folder that exists takes what
+  // is copied or moved in under its own name. A file in the way is replaced by Copy and stops Move and Rename;
+  // a folder in the way of a copied one takes its entries in. Nothing is asked or shown. True when all was done.
+  bool FileEdit(FileOperation operation, std::u16string_view from, std::u16string_view to,
+                std::uint32_t flags = 0) const;
   // Complete path of the shortcut that CreateShortcut makes.
   std::u16string ShortcutPath(std::u16string_view folder, std::u16string_view name) const;
   bool CreateShortcut(std::u16string_view target, std::u16string_view folder, std::u16string_view name) const;
@@ -150,6 +161,9 @@ class ClassCommon {
   const Ports& PortSet() const { return ports_; }
 
  private:
+  bool EditFile(FileOperation operation, const std::u16string& source, std::u16string target,
+                std::uint32_t flags) const;
+
   Ports ports_;
   PathStyle style_;
   ProfileFile profiles_;

@@ -34,6 +34,13 @@ std::uint16_t Code(char16_t unit) {
   return kEncodePages[kPageOfHighByte[unit >> 8]][unit & 0xFF];
 }
 
+bool IsUnmappable(char16_t unit) {
+  if (unit < 0x80) return false;
+  const std::uint16_t code = Code(unit);
+  return unit !=
+         (code > 0xFF ? DecodePair(static_cast<unsigned char>(code >> 8), code & 0xFF) : kSingleUnits[code]);
+}
+
 bool IsDoubleByte(char16_t unit) {
   return (kDoubleByteUnits[unit >> 5] >> (unit & 31)) & 1;
 }
@@ -202,12 +209,18 @@ std::size_t EncodedLength(std::u16string_view text) {
 }
 
 bool RoundTrips(std::u16string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char16_t unit) {
-    if (unit < 0x80) return true;
-    const std::uint16_t code = Code(unit);
-    return unit == (code > 0xFF ? DecodePair(static_cast<unsigned char>(code >> 8), code & 0xFF)
-                                : kSingleUnits[code]);
-  });
+  return FindUnmappable(text, 0) == text.npos;
+}
+
+std::size_t FindUnmappable(std::u16string_view text, std::size_t from) {
+  while (from < text.size()) {
+    const std::u16string_view block = text.substr(from, kBlock);
+    const bool isAscii = block.size() == kBlock && NonAsciiMask(block.data()) == 0;
+    const auto found = isAscii ? block.end() : std::find_if(block.begin(), block.end(), IsUnmappable);
+    if (found != block.end()) return from + static_cast<std::size_t>(found - block.begin());
+    from += block.size();
+  }
+  return text.npos;
 }
 
 void Decoder::Append(std::string_view bytes, std::u16string& out) {

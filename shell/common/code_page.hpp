@@ -20,6 +20,9 @@ std::size_t EncodedLength(std::u16string_view text);
 // True when every character of the text comes back unchanged from Decode(Encode(text)).
 bool RoundTrips(std::u16string_view text);
 
+// Index, not before from, of the first unit that does not; npos when there is none.
+std::size_t FindUnmappable(std::u16string_view text, std::size_t from);
+
 // Decodes a stream that arrives in pieces; a lead byte at the end of a piece waits for the next one. A text
 // never has more units than the stream has bytes: reserve that many in out when the size is known.
 class Decoder {

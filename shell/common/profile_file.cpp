@@ -65,7 +65,8 @@ bool ProfileFile::DeleteSection(std::u16string_view path, std::u16string_view se
   return Update(path, [&](ProfileContent& content) { content.DeleteSection(code_page::Encode(section)); });
 }
 
-bool ProfileFile::Update(std::u16string_view path, const std::function<void(ProfileContent&)>& change) const {
+bool ProfileFile::Update(std::u16string_view path, const std::function<void(ProfileContent&)>& change,
+                         Keeping keeping) const {
   const auto lock = files_.Lock(path);
   auto bytes = ReadAll(files_, path);
   if (!bytes && files_.Status(path)) return false;  // there, but not to be read: it must not be overwritten
@@ -74,7 +75,9 @@ bool ProfileFile::Update(std::u16string_view path, const std::function<void(Prof
   change(content);
   const std::string after = content.FileBytes();
   if (after == before) return true;
-  return files_.ReplaceUnsynced(path, [&](const FileSystem::ByteConsumer& write) { return write(after); });
+  const auto produce = [&after](const FileSystem::ByteConsumer& write) { return write(after); };
+  return keeping == Keeping::Whole ? files_.ReplaceOrdered(path, produce)
+                                   : files_.ReplaceUnsynced(path, produce);
 }
 
 }  // namespace kestri

@@ -2,7 +2,8 @@
 // key names compare without ASCII case, the first hit counts, blanks around names and values are not kept,
 // matching quotes around a value are taken off at read, a value is one line. Lines in front of the first
 // header belong to the section without a name. A file with a UTF-16 byte order mark is read and stays in that
-// form. A write changes only the line it concerns, atomically and under the file's lock.
+// form. A write changes only the line it concerns, under the file's lock. For other processes, and when this
+// one is killed, the file holds the whole old or the whole new content.
 #pragma once
 
 #include <cstddef>
@@ -51,6 +52,12 @@ class ProfileContent {
   std::optional<std::u16string> wide_;  // the whole text of a UTF-16 file, changed along with bytes_
 };
 
+// What a power failure may do to a file that is being written.
+enum class Keeping {
+  Whole,     // the old or the new content is there
+  Volatile,  // it may be empty: for records that no next start needs; writes do not wait for the disk
+};
+
 class ProfileFile {
  public:
   explicit ProfileFile(FileSystem& files) : files_(files) {}
@@ -71,7 +78,8 @@ class ProfileFile {
   bool DeleteSection(std::u16string_view path, std::u16string_view section) const;
 
   // Several changes as one write under one lock.
-  bool Update(std::u16string_view path, const std::function<void(ProfileContent&)>& change) const;
+  bool Update(std::u16string_view path, const std::function<void(ProfileContent&)>& change,
+              Keeping keeping = Keeping::Whole) const;
 
  private:
   FileSystem& files_;

@@ -151,6 +151,41 @@ TEST(AtomicFile, RefusesAFileWithoutWriteBits) {
   EXPECT_EQ(folder.Read("a.htm"), kOld);
 }
 
+// The calls that decide what a power failure leaves, in their order.
+class OrderOfCalls : public PosixCalls {
+ public:
+  int Sync(int file) override {
+    struct stat status {};
+    ::fstat(file, &status);
+    order += S_ISDIR(status.st_mode) ? "folder " : "sync ";
+    return PosixCalls::Sync(file);
+  }
+  int SyncData(int file) override {
+    order += "data ";
+    return PosixCalls::SyncData(file);
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    order += "rename ";
+    return PosixCalls::Rename(from, to);
+  }
+  std::string order;
+};
+
+TEST(AtomicFile, TheContentIsOnTheDiskBeforeItTakesTheOldOnesPlace) {
+  struct Row {
+    Durability durability;
+    const char* order;
+  };
+  for (const Row& row : {Row{Durability::Synced, "sync rename folder "},
+                         Row{Durability::Ordered, "data rename "}, Row{Durability::Renamed, "rename "}}) {
+    const TemporaryFolder folder;
+    folder.Write("a.htm", kOld);
+    OrderOfCalls calls;
+    EXPECT_TRUE(SaveIn(calls, folder, "a.htm", kNew, row.durability));
+    EXPECT_EQ(calls.order, row.order);
+  }
+}
+
 TEST(AtomicFile, AProducerThatGivesUpLeavesTheOldContent) {
   const TemporaryFolder folder;
   folder.Write("a.htm", kOld);
@@ -285,6 +320,7 @@ TEST_P(FailureAtEveryCall, ADiskThatDiesLosesNothingThatCannotBeFound) {
 
 INSTANTIATE_TEST_SUITE_P(Layouts, FailureAtEveryCall,
                          testing::Values(Layout{"Plain", 0, false, Durability::Synced},
+                                         Layout{"Ordered", 0, false, Durability::Ordered},
                                          Layout{"Unsynced", 0, false, Durability::Renamed},
                                          Layout{"HardLinked", 1, false, Durability::Synced},
                                          Layout{"ClosedFolder", 0, true, Durability::Synced}),

@@ -56,6 +56,7 @@ class FailingCalls : public posix::PosixCalls {
   int Truncate(int file, off_t size) override { return Fails() ? -1 : PosixCalls::Truncate(file, size); }
   int Reserve(int file, off_t size) override { return Fails() ? -1 : PosixCalls::Reserve(file, size); }
   int Sync(int file) override { return Fails() ? -1 : PosixCalls::Sync(file); }
+  int SyncData(int file) override { return Fails() ? -1 : PosixCalls::SyncData(file); }
   int Close(int file) override {
     const bool fails = Fails();
     const int result = PosixCalls::Close(file);

@@ -1,10 +1,16 @@
 #include "platform/posix/posix_file_system.hpp"
 
+#include <errno.h>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <ctime>
+#include <fstream>
+#include <sstream>
 
 #include "platform/posix/native_path.hpp"
 #include "tests/fakes/temporary_folder.hpp"
@@ -14,6 +20,7 @@ namespace kestri {
 namespace {
 
 using fakes::FailingCalls;
+using fakes::ScopedVariable;
 using fakes::TemporaryFolder;
 using testing::UnorderedElementsAre;
 
@@ -107,6 +114,7 @@ TEST(PosixFileSystem, AByteThatIsNoUtf8KeepsItsName) {
 
 TEST(PosixFileSystem, AppendsAndCreates) {
   const TemporaryFolder folder;
+  const ScopedVariable runtime("XDG_RUNTIME_DIR", folder.Path("run"));
   PosixFileSystem files;
   EXPECT_TRUE(files.Append(folder.Text(u"a.log"), "one\r\n"));
   EXPECT_TRUE(files.Append(folder.Text(u"a.log"), "two\r\n"));
@@ -117,11 +125,166 @@ TEST(PosixFileSystem, AppendsAndCreates) {
 
 TEST(PosixFileSystem, AFailedAppendTakesBackWhatItWrote) {
   const TemporaryFolder folder;
+  const ScopedVariable runtime("XDG_RUNTIME_DIR", folder.Path("run"));
   folder.Write("a.log", "one");
   FailingCalls calls(1);
   PosixFileSystem files(calls);
   EXPECT_FALSE(files.Append(folder.Text(u"a.log"), "two two two"));
   EXPECT_EQ(folder.Read("a.log"), "one");
+}
+
+// A disk that fills up in the middle of a line while another program, which knows of no lock, writes a line.
+class CrowdedDisk : public posix::PosixCalls {
+ public:
+  explicit CrowdedDisk(std::string path) : path_(std::move(path)) {}
+  ssize_t Write(int file, const void* data, std::size_t size) override {
+    if (PosixCalls::Write(file, data, size / 2) < 0) return -1;
+    std::ofstream(path_, std::ios::app) << "theirs\r\n";
+    errno = ENOSPC;
+    return -1;
+  }
+
+ private:
+  std::string path_;
+};
+
+TEST(PosixFileSystem, AFailedAppendNeverCutsAnothersLine) {
+  const TemporaryFolder folder;
+  const ScopedVariable runtime("XDG_RUNTIME_DIR", folder.Path("run"));
+  folder.Write("a.log", "one\r\n");
+  CrowdedDisk calls(folder.Path("a.log"));
+  PosixFileSystem files(calls);
+  EXPECT_FALSE(files.Append(folder.Text(u"a.log"), "two two\r\n"));
+  EXPECT_EQ(folder.Read("a.log"), "one\r\ntwo theirs\r\n");
+}
+
+TEST(PosixFileSystem, LinesOfManyProcessesStayWhole) {
+  constexpr int kProcesses = 8;
+  constexpr int kLines = 100;
+  const TemporaryFolder folder;
+  const ScopedVariable runtime("XDG_RUNTIME_DIR", folder.Path("run"));
+  std::vector<pid_t> children;
+  for (int process = 0; process < kProcesses; ++process) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      const std::string line = std::string(200, static_cast<char>('a' + process)) + "\n";
+      PosixFileSystem files;
+      bool all = true;
+      for (int i = 0; i < kLines; ++i) all = files.Append(folder.Text(u"a.log"), line) && all;
+      ::_exit(all ? 0 : 1);
+    }
+    children.push_back(child);
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+  }
+  std::istringstream log(folder.Read("a.log"));
+  int lines = 0;
+  for (std::string line; std::getline(log, line); ++lines) EXPECT_EQ(line, std::string(200, line.front()));
+  EXPECT_EQ(lines, kProcesses * kLines);
+}
+
+TEST(PosixFileSystem, StatusTellsAFileReplacedByAnotherOfTheSameTime) {
+  const TemporaryFolder folder;
+  const timespec times[] = {{1000000000, 7}, {1000000000, 7}};
+  for (const char* name : {"a", "b"}) {
+    folder.Write(name, "1");
+    ::utimensat(AT_FDCWD, folder.Path(name).c_str(), times, 0);
+  }
+  PosixFileSystem files;
+  const auto before = files.Status(folder.Text(u"a"));
+  std::filesystem::rename(folder.Path("b"), folder.Path("a"));
+  const auto after = files.Status(folder.Text(u"a"));
+  ASSERT_TRUE(before && after);
+  EXPECT_EQ(before->modifiedNanoseconds, 7);
+  EXPECT_EQ(after->modifiedNanoseconds, 7);
+  EXPECT_NE(after->inode, before->inode);
+}
+
+// What others could read of a copy while it was made, and whether it was on the disk in the end.
+class CopyWatch : public posix::PosixCalls {
+ public:
+  ssize_t Write(int file, const void* data, std::size_t size) override {
+    opened |= ModeOf(file);
+    return PosixCalls::Write(file, data, size);
+  }
+  int Sync(int file) override {
+    if ((ModeOf(file) & S_IFMT) == S_IFREG) synced.push_back(ModeOf(file) & 07777);
+    return PosixCalls::Sync(file);
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    syncedBeforeRename = !synced.empty();
+    return PosixCalls::Rename(from, to);
+  }
+  mode_t opened = 0;
+  std::vector<mode_t> synced;
+  bool syncedBeforeRename = false;
+
+ private:
+  static mode_t ModeOf(int file) {
+    struct stat status {};
+    ::fstat(file, &status);
+    return status.st_mode;
+  }
+};
+
+TEST(PosixFileSystem, ACopyIsOpenToNobodyUntilItIsWholeAndOnTheDisk) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", std::string(1'000'000, 'x'));
+  ::chmod(folder.Path("a.htm").c_str(), 0640);
+  folder.Write("taken.htm", "old");
+  ::chmod(folder.Path("taken.htm").c_str(), 0666);
+  const mode_t mask = ::umask(0);
+  for (const char16_t* name : {u"new.htm", u"taken.htm"}) {
+    CopyWatch calls;
+    PosixFileSystem files(calls);
+    EXPECT_TRUE(files.Copy(folder.Text(u"a.htm"), folder.Text(name)));
+    EXPECT_EQ(calls.opened & 077, 0u) << ToUtf8(name);
+    EXPECT_THAT(calls.synced, testing::ElementsAre(0640u));
+    EXPECT_TRUE(calls.syncedBeforeRename);
+    struct stat status {};
+    ::stat(ToUtf8(folder.Text(name)).c_str(), &status);
+    EXPECT_EQ(status.st_mode & 07777, 0640u);
+  }
+  ::umask(mask);
+}
+
+TEST(PosixFileSystem, ACopyOntoAFileWithSeveralNamesGetsTheModeAsWell) {
+  const TemporaryFolder folder;
+  folder.Write("a.htm", "text");
+  ::chmod(folder.Path("a.htm").c_str(), 0600);
+  folder.Write("b.htm", "old");
+  std::filesystem::create_hard_link(folder.Path("b.htm"), folder.Path("c.htm"));
+  PosixFileSystem files;
+  EXPECT_TRUE(files.Copy(folder.Text(u"a.htm"), folder.Text(u"b.htm")));
+  struct stat status {};
+  ::stat(folder.Path("c.htm").c_str(), &status);
+  EXPECT_EQ(folder.Read("c.htm"), "text");
+  EXPECT_EQ(status.st_mode & 07777, 0600u);
+}
+
+TEST(PosixFileSystem, ACopyHasNoSetIdBits) {
+  const TemporaryFolder folder;
+  folder.Write("a", "text");
+  ::chmod(folder.Path("a").c_str(), 06755);
+  PosixFileSystem files;
+  EXPECT_TRUE(files.Copy(folder.Text(u"a"), folder.Text(u"b")));
+  struct stat status {};
+  ::stat(folder.Path("b").c_str(), &status);
+  EXPECT_EQ(status.st_mode & 07777, 0755u);
+}
+
+TEST(PosixFileSystem, LinkTextTellsWhatALinkSays) {
+  const TemporaryFolder folder;
+  folder.Write("a", "");
+  PosixFileSystem files;
+  ASSERT_TRUE(files.CreateLink(u"../表", folder.Text(u"link")));
+  EXPECT_EQ(files.LinkText(folder.Text(u"link")), u"../表");
+  EXPECT_FALSE(files.LinkText(folder.Text(u"a")));
+  EXPECT_FALSE(files.LinkText(folder.Text(u"missing")));
 }
 
 TEST(PosixFileSystem, CopyKeepsModeAndTime) {

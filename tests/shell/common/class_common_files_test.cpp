@@ -103,6 +103,106 @@ TEST_F(RealFiles, AFolderIsNeverCopiedIntoItself) {
   EXPECT_TRUE(std::filesystem::is_empty(folder.Path("d")));
 }
 
+TEST_F(RealFiles, LinksInAFolderAreCopiedAsLinksAlsoWhenTheyRunInALoop) {
+  std::filesystem::create_directories(folder.Path("d/e"));
+  folder.Write("d/e/b", "text");
+  std::filesystem::create_directory_symlink("..", folder.Path("d/e/up"));
+  std::filesystem::create_symlink("self", folder.Path("d/self"));
+  std::filesystem::create_symlink("e/b", folder.Path("d/file"));
+  for (int copy = 0; copy < 2; ++copy) {  // the second one finds the links of the first
+    EXPECT_TRUE(
+        common_.FileEdit(Operation::Copy, folder.Text(u"d"), folder.Text(u"f"), kMultipleDestinations));
+    EXPECT_EQ(folder.Read("f/e/b"), "text");
+    EXPECT_EQ(std::filesystem::read_symlink(folder.Path("f/e/up")), "..");
+    EXPECT_EQ(std::filesystem::read_symlink(folder.Path("f/self")), "self");
+    EXPECT_EQ(std::filesystem::read_symlink(folder.Path("f/file")), "e/b");
+  }
+}
+
+TEST_F(RealFiles, ALinkThatIsCopiedItselfGivesWhatItPointsTo) {
+  folder.Write("a", "text");
+  std::filesystem::create_symlink("a", folder.Path("link"));
+  EXPECT_TRUE(common_.FileEdit(Operation::Copy, folder.Text(u"link"), folder.Text(u"c")));
+  EXPECT_FALSE(std::filesystem::is_symlink(folder.Path("c")));
+  EXPECT_EQ(folder.Read("c"), "text");
+}
+
+TEST_F(RealFiles, AFolderIsNotCopiedIntoItselfThroughALink) {
+  std::filesystem::create_directories(folder.Path("d/e"));
+  folder.Write("d/a", "text");
+  std::filesystem::create_directory_symlink("d", folder.Path("link"));
+  std::filesystem::create_directory_symlink("d/e", folder.Path("inner"));
+  EXPECT_FALSE(common_.FileEdit(Operation::Copy, folder.Text(u"d"), folder.Text(u"link/new")));
+  EXPECT_FALSE(
+      common_.FileEdit(Operation::Copy, folder.Text(u"d"), folder.Text(u"inner"), kMultipleDestinations));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path("d/e")));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("d/new")));
+}
+
+TEST_F(RealFiles, AFolderTakesInWhatIsCopiedOrMovedThere) {
+  std::filesystem::create_directories(folder.Path("d"));
+  folder.Write("a", "1");
+  folder.Write("b", "2");
+  EXPECT_TRUE(common_.FileEdit(Operation::Copy, folder.Text(u"a"), folder.Text(u"d/")));
+  EXPECT_TRUE(common_.FileEdit(Operation::Move, folder.Text(u"b"), folder.Text(u"d")));
+  EXPECT_EQ(folder.Read("a"), "1");
+  EXPECT_EQ(folder.Read("d/a"), "1");
+  EXPECT_EQ(folder.Read("d/b"), "2");
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("b")));
+}
+
+TEST_F(RealFiles, WithMultipleDestinationsTheTargetIsTheNewPathItself) {
+  std::filesystem::create_directories(folder.Path("d"));
+  folder.Write("a", "1");
+  EXPECT_FALSE(
+      common_.FileEdit(Operation::Copy, folder.Text(u"a"), folder.Text(u"d"), kMultipleDestinations));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path("d")));
+}
+
+TEST_F(RealFiles, ListsOfPathsAreSeparatedByNuls) {
+  std::filesystem::create_directories(folder.Path("d"));
+  folder.Write("a", "1");
+  folder.Write("b", "2");
+  const std::u16string both = folder.Text(u"a") + u'\0' + folder.Text(u"b") + u'\0';
+  EXPECT_TRUE(common_.FileEdit(Operation::Copy, both, folder.Text(u"d")));
+  EXPECT_EQ(folder.Read("d/a") + folder.Read("d/b"), "12");
+  const std::u16string names = folder.Text(u"x") + u'\0' + folder.Text(u"y");
+  EXPECT_FALSE(common_.FileEdit(Operation::Copy, both, names));
+  EXPECT_FALSE(common_.FileEdit(Operation::Copy, both, folder.Text(u"x"), kMultipleDestinations));
+  EXPECT_FALSE(common_.FileEdit(Operation::Copy, both, folder.Text(u"x")));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("x")));
+  EXPECT_TRUE(common_.FileEdit(Operation::Copy, both, names, kMultipleDestinations));
+  EXPECT_EQ(folder.Read("x") + folder.Read("y"), "12");
+  EXPECT_TRUE(common_.FileEdit(Operation::Delete, both, u""));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("a")) || std::filesystem::exists(folder.Path("b")));
+}
+
+TEST_F(RealFiles, RenameOnCollisionNumbersTheNewNameAndKeepsTheOld) {
+  folder.Write("a.b.htm", "1");
+  folder.Write("c.htm", "2");
+  folder.Write("c (2).htm", "3");
+  folder.Write(".hidden", "4");
+  EXPECT_TRUE(
+      common_.FileEdit(Operation::Copy, folder.Text(u"a.b.htm"), folder.Text(u"c.htm"), kRenameOnCollision));
+  EXPECT_EQ(folder.Read("c.htm") + folder.Read("c (2).htm") + folder.Read("c (3).htm"), "231");
+  EXPECT_TRUE(common_.FileEdit(Operation::Move, folder.Text(u"c (3).htm"), folder.Text(u".hidden"),
+                               kRenameOnCollision));
+  EXPECT_EQ(folder.Read(".hidden") + folder.Read(".hidden (2)"), "41");
+  EXPECT_TRUE(
+      common_.FileEdit(Operation::Rename, folder.Text(u"c.htm"), folder.Text(u"free"), kRenameOnCollision));
+  EXPECT_EQ(folder.Read("free"), "2");
+  EXPECT_TRUE(common_.FileEdit(Operation::Copy, folder.Text(u"a.b.htm"), folder.Text(), kRenameOnCollision));
+  EXPECT_EQ(folder.Read("a.b (2).htm"), "1");
+}
+
+TEST_F(RealFiles, FlagsForWindowsAndQuestionsChangeNothing) {
+  constexpr std::uint32_t kSilentNoQuestionsUndo = 4 | 16 | 64 | 128 | 256;
+  folder.Write("a", "1");
+  EXPECT_TRUE(
+      common_.FileEdit(Operation::Rename, folder.Text(u"a"), folder.Text(u"b"), kSilentNoQuestionsUndo));
+  EXPECT_EQ(folder.Read("b"), "1");
+}
+
 TEST_F(RealFiles, MoveAndRenameLeaveNothingBehindAndOverwriteNothing) {
   folder.Write("a", "1");
   folder.Write("b", "2");

@@ -49,6 +49,18 @@ std::string RandomBytes(std::mt19937& random, std::size_t size) {
   return bytes;
 }
 
+TEST(Unmappable, IsFoundAtEveryPlaceFromThePlaceAskedFor) {
+  for (std::size_t at = 0; at < 40; ++at) {
+    std::u16string text(40, u'a');
+    text[39] = u'表';
+    text[at] = u'é';
+    for (std::size_t from = 0; from <= text.size() + 1; ++from) {
+      EXPECT_EQ(FindUnmappable(text, from), from <= at ? at : text.npos) << at << " from " << from;
+    }
+  }
+  EXPECT_EQ(FindUnmappable(u"", 0), std::u16string_view::npos);
+}
+
 TEST(CodePage, EveryRecordedByteAndDoubleByteDecodesAsRecorded) {
   int rows = 0;
   for (const OracleRow& row : fakes::ReadOracleRows(kData + "/cp932_decode.tsv")) {

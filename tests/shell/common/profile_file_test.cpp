@@ -189,6 +189,28 @@ TEST(ProfileFile, AFailedWriteLeavesTheFileWholeAndSaysSo) {
   EXPECT_GT(failures, 0);
 }
 
+class SyncCounter : public posix::PosixCalls {
+ public:
+  int SyncData(int file) override {
+    ++synced;
+    return PosixCalls::SyncData(file);
+  }
+  int synced = 0;
+};
+
+TEST(ProfileFile, APowerFailureLeavesItWholeUnlessItIsVolatile) {
+  const TemporaryFolder folder;
+  SyncCounter calls;
+  PosixFileSystem files(calls);
+  const ProfileFile profiles(files);
+  EXPECT_TRUE(profiles.Set(folder.Text(u"s.ini"), u"S", u"a", u"1"));
+  EXPECT_EQ(calls.synced, 1);
+  const auto change = [](ProfileContent& content) { content.Set("S", "a", "2"); };
+  EXPECT_TRUE(profiles.Update(folder.Text(u"s.ini"), change, Keeping::Volatile));
+  EXPECT_EQ(calls.synced, 1);
+  EXPECT_EQ(folder.Read("s.ini"), "[S]\r\na=2\r\n");
+}
+
 TEST(ProfileFile, AReadOnlyFileIsNotWritten) {
   const TemporaryFolder folder;
   folder.Write("s.ini", "[S]\r\na=1\r\n");
