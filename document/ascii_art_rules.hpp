@@ -17,8 +17,8 @@ struct BlankRefusal {
   std::optional<Position> offender;  // the blank that stands in the way
 };
 
-// Why a blank typed over the selection would not do; nothing when it may be typed. What the selection holds
-// is about to be replaced and does not count.
+// Why a blank typed over the selection would not do; nothing when it may be typed. Both characters at either
+// end of the selection count, the one inside it too.
 std::optional<BlankRefusal> RefuseBlank(const EditControl& control);
 
 }  // namespace kestri

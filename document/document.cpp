@@ -39,6 +39,13 @@ std::u16string_view KindPane(std::int32_t fileKind) {
   return u"";
 }
 
+// The status bar shows one message: a second one would hide the first.
+std::u16string InOneLine(std::u16string_view first, std::u16string_view second) {
+  std::u16string line(first);
+  if (!first.empty() && !second.empty()) line += u"  ";
+  return line.append(second);
+}
+
 }  // namespace
 
 Document::Document(EditControl& control, ApplicationState& state, const ClassCommon& common,
@@ -100,7 +107,7 @@ bool Document::FillControl(std::u16string text, KeepModified keep) {
     control_.SetText(std::move(text));
   }
   unreadableBytes_ = false;
-  lossAccepted_ = false;
+  acceptedLoss_ = {};
   window_.RefreshStatus();
   const bool changed = keep == KeepModified::Yes;
   control_.SetModified(changed);
@@ -124,8 +131,8 @@ void Document::ShowCaption() {
   window_.SetCaption(caption.append(state_.captionTail));
 }
 
-void Document::ApplyOpenedFile(std::u16string_view openedPath, ReadOnly readOnly,
-                               std::u16string_view lineEnd) {
+void Document::ApplyOpenedFile(std::u16string_view openedPath, ReadOnly readOnly, std::u16string_view lineEnd,
+                               std::u16string_view remark) {
   const std::u16string path(openedPath);
   NameDocument(path);
   state_.fileKind = common_.FileTypeReturn(path);
@@ -138,7 +145,7 @@ void Document::ApplyOpenedFile(std::u16string_view openedPath, ReadOnly readOnly
   titlePart_ = TitlePart(path);
   readOnlyMark_ = decision.mark;
   ShowCaption();
-  window_.MessageToStatusBar(decision.message);
+  window_.MessageToStatusBar(InOneLine(decision.message, remark));
   ShowLineEnd(lineEnd);
   if (control_.Locked() != decision.locked) control_.SetLocked(decision.locked);
   window_.HTMLToolsEnable(state_.fileKind == kFileTypeHtml || state_.htmlNAV != 1);

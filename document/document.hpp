@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,7 @@
 #include "document/edit_control/edit_control.hpp"
 #include "document/file_history.hpp"
 #include "document/instance_log.hpp"
+#include "document/lossy_characters.hpp"
 #include "document/reading_positions.hpp"
 #include "platform/file_dialog.hpp"
 #include "platform/message_box.hpp"
@@ -37,11 +39,14 @@ class Document {
   bool OverwriteSave();
   bool WriteDocument(std::u16string_view path);
 
+  EditControl& Control() const { return control_; }
   // Fills MainText while its change event is muted. False when the control cannot hold the text.
   bool SetDocumentText(std::u16string text, KeepModified keep);
   // Common end of open, save and new: names the document and shows its state. A path that does not exist is
   // the name of a new document; only the name, without folder, then becomes the current file.
-  void ApplyOpenedFile(std::u16string_view path, ReadOnly readOnly, std::u16string_view lineEnd);
+  void ApplyOpenedFile(std::u16string_view path, ReadOnly readOnly, std::u16string_view lineEnd) {
+    ApplyOpenedFile(path, readOnly, lineEnd, u"");
+  }
   std::u16string TabsToBlanks(std::u16string text) const;
   // False: stay with this document. The caption names the command that would leave it; may be empty.
   bool ConfirmDiscard(std::u16string_view caption);
@@ -105,13 +110,16 @@ class Document {
   bool AgreesToOverwrite(const std::u16string& path);
   bool AgreesToForeignChange(const std::u16string& path);
   bool AgreesToUnreadableBytes(const std::u16string& path);
-  bool AgreesToLossyCharacters(std::u16string_view path);
+  bool AgreesToLossyCharacters(const std::u16string& path);
+  bool AskAboutLoss(const std::u16string& path, const LossyCharacter& added);
   bool Write(const std::u16string& path);
   bool WriteText(const std::u16string& path) const;
   void FinishSaving(const std::u16string& path);
   std::u16string LineEndOnDisk() const;
 
-  // The document's state on display.
+  // The document's state on display. The remark is told behind what there is to say of the file itself.
+  void ApplyOpenedFile(std::u16string_view path, ReadOnly readOnly, std::u16string_view lineEnd,
+                       std::u16string_view remark);
   bool FillControl(std::u16string text, KeepModified keep);
   void NameDocument(const std::u16string& path);
   void ChangeFolder();
@@ -148,7 +156,11 @@ class Document {
   std::u16string_view readOnlyMark_;
   std::optional<FileStatus> onDisk_;  // the file as this document knows it; nothing for a new document
   bool unreadableBytes_ = false;      // the file holds bytes that the text does not
-  bool lossAccepted_ = false;         // the user agreed to save characters outside the code page as others
+  struct AcceptedLoss {
+    std::u16string path;
+    std::set<char32_t> characters;
+  };
+  AcceptedLoss acceptedLoss_;  // characters outside the code page that the user agreed to save as others
 };
 
 // The application's waiting pointer for as long as this stands.

@@ -2,6 +2,7 @@
 
 #include "document/settings_values.hpp"
 #include "shell/common/code_page.hpp"
+#include "shell/common/own_processes.hpp"
 #include "shell/common/text.hpp"
 
 namespace kestri {
@@ -37,12 +38,14 @@ void ForgetHandle(ProfileContent& content, std::int64_t handle) {
 
 }  // namespace
 
-std::u16string CaptionTail(std::int32_t windowNumber) {
+std::u16string ProductTitle() {
   const std::u16string version =
       ToText(kVersionMajor) + u"." + ToText(kVersionMinor) + u"." + ToText(kVersionRevision);
-  std::u16string tail = u" - ";
-  tail.append(kApplicationTitle).append(u" (Version ").append(version).append(u"e07)  #");
-  return tail + FormatZeros(windowNumber, 2);
+  return std::u16string(kApplicationTitle) + u" (Version " + version + u"e07)";
+}
+
+std::u16string CaptionTail(std::int32_t windowNumber) {
+  return u" - " + ProductTitle() + u"  #" + FormatZeros(windowNumber, 2);
 }
 
 std::u16string InstanceLog::Path() const {
@@ -55,7 +58,7 @@ std::int64_t InstanceLog::OwnHandle() const {
 
 std::int32_t InstanceLog::AssignWindowNumber(const IsLiving& isLiving) {
   std::int32_t number = 1;
-  common_.Profiles().Update(Path(), [&](ProfileContent& content) {
+  Update([&](ProfileContent& content) {
     ForgetHandle(content, OwnHandle());
     while (HandleOf(content, number) != 0 && isLiving(HandleOf(content, number))) ++number;
     content.DeleteKey(kFiles, FileKey(number));
@@ -81,21 +84,30 @@ std::vector<InstanceLog::Entry> InstanceLog::Entries(std::int32_t last) const {
 
 void InstanceLog::Register(std::u16string_view path) const {
   const std::int32_t number = state_.windowNumber;
-  common_.Profiles().Update(Path(), [&](ProfileContent& content) {
+  Update([&](ProfileContent& content) {
     content.Set(kFiles, FileKey(number), code_page::Encode(WithoutControls(path)));
     content.Set(kHandles, HandleKey(number), std::to_string(OwnHandle()));
   });
 }
 
 void InstanceLog::Unregister(Others others) const {
-  if (others == Others::None) {
-    common_.KillFile(Path());
-    return;
-  }
-  common_.Profiles().Update(Path(), [&](ProfileContent& content) {
+  if (others == Others::None && RemoveWhenLast()) return;
+  Update([&](ProfileContent& content) {
     content.DeleteKey(kFiles, FileKey(state_.windowNumber));
     content.DeleteKey(kHandles, HandleKey(state_.windowNumber));
   });
+}
+
+// An instance that started since the caller counted may have registered; it cannot while the lock is held.
+bool InstanceLog::RemoveWhenLast() const {
+  const auto lock = common_.PortSet().files.Lock(Path());
+  if (CountOwnProcesses(common_.PortSet().environment) > 1) return false;
+  common_.KillFile(Path());
+  return true;
+}
+
+void InstanceLog::Update(const std::function<void(ProfileContent&)>& change) const {
+  common_.Profiles().Update(Path(), change, Keeping::Volatile);
 }
 
 }  // namespace kestri

@@ -13,6 +13,8 @@
 
 namespace kestri {
 
+// "Kestrile (Version 1.0.0e07)"
+std::u16string ProductTitle();
 // " - Kestrile (Version 1.0.0e07)  #01"
 std::u16string CaptionTail(std::int32_t windowNumber);
 
@@ -30,7 +32,8 @@ class InstanceLog {
   // Records this window's handle and the path of its document. Control characters are written as blanks.
   void Register(std::u16string_view path) const;
 
-  // At the window's end: only this number's entries go while other instances run, else the whole file.
+  // At the window's end: only this number's entries go while other instances run, else the whole file. None
+  // is counted again under the file's lock.
   enum class Others { Running, None };
   void Unregister(Others others) const;
 
@@ -47,6 +50,8 @@ class InstanceLog {
 
  private:
   std::int64_t OwnHandle() const;
+  bool RemoveWhenLast() const;
+  void Update(const std::function<void(ProfileContent&)>& change) const;
 
   const ClassCommon& common_;
   ApplicationState& state_;

@@ -21,17 +21,18 @@ MainText::MainText(EditControl& control, ApplicationState& state, const ClassCom
       boxes_(boxes) {}
 
 void MainText::InstallSubclass(int mode) {
-  subclassed_ = mode == 1;
+  SetDragMode(false);
+  subclassed_ = mode != 0;
   Refresh();
 }
 
 void MainText::InstallSubclassAsSet() {
-  InstallSubclass(SwitchedOn(u"SubClass") ? 1 : 0);
+  InstallSubclass(SwitchOf(u"SubClass"));
 }
 
-// The switches read here are on unless the settings file says 0.
-bool MainText::SwitchedOn(std::u16string_view setting) const {
-  return ToLong(common_.GetINI(common_.ExeName(), u"Setting", setting, u"1")).value_or(1) != 0;
+// The switches read here are 1 unless the settings file says otherwise.
+std::int32_t MainText::SwitchOf(std::u16string_view setting) const {
+  return ToLong(common_.GetINI(common_.ExeName(), u"Setting", setting, u"1")).value_or(1);
 }
 
 bool MainText::Guarded(const std::function<void()>& action) {
@@ -55,6 +56,10 @@ bool MainText::RefuseIfLocked() {
 
 void MainText::Edit(int index) {
   if (index >= 0 && index <= 3 && RefuseIfLocked()) return;
+  Guarded([&] { RunEdit(index); });
+}
+
+void MainText::RunEdit(int index) {
   switch (index) {
     case 0:
       return WM_CUT();
@@ -79,8 +84,10 @@ void MainText::Edit(int index) {
 
 void MainText::MenUNDO(int index) {
   if (RefuseIfLocked()) return;
-  if (index == 0) EM_UNDO();
-  if (index == 1) EM_REDO();
+  Guarded([&] {
+    if (index == 0) EM_UNDO();
+    if (index == 1) EM_REDO();
+  });
 }
 
 }  // namespace kestri

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,7 +23,8 @@ class MainTextHost {
   virtual ~MainTextHost() = default;
   virtual void MessageToStatusBar(std::u16string_view text) = 0;
   virtual void SetStatusPane(int pane, std::u16string_view text) = 0;  // one-based
-  virtual void DocumentModified() = 0;  // before the modified flag is set: the first change since load or save
+  // The first change since load or save, before the modified flag is set.
+  virtual void DocumentModified() = 0;
   virtual void SetTextHidden(bool hidden) = 0;  // no painting of a half-done block operation
   virtual void FocusText() = 0;
   virtual void BringToFront() = 0;
@@ -46,7 +48,8 @@ class MainText {
 
   EditControl& Control() { return control_; }
 
-  // Mode 1 lays the rules of MainTextProc over the control; without it tabs are not converted.
+  // Mode 1 lays the rules of MainTextProc over the control, 0 takes them off; without them tabs are not
+  // converted.
   void InstallSubclass(int mode);
   void InstallSubclassAsSet();  // by the setting SubClass, default 1
   bool Subclassed() const { return subclassed_; }
@@ -61,6 +64,10 @@ class MainText {
   Drop OLEDropText(std::u16string_view text);
   Drop OLEDropFiles(const std::vector<std::u16string>& paths);
   Drop OLEDropOther();
+  // A drag of the selection ends at a position of the text: one undo step, what was moved or copied stays
+  // selected.
+  enum class SelectionDrag { Move, Copy };
+  void DropSelection(Position to, SelectionDrag drag);
 
   // Messages, all through MainTextProc. lParam of WM_CHAR: 1 from the keyboard, 0 or -1 from the program. A
   // locked control takes no character, no paste and no input.
@@ -69,6 +76,7 @@ class MainText {
   void WM_CUT();
   void WM_COPY();
   void WM_PASTE();
+  void PasteAt(Position at, std::u16string_view text);  // of the middle button: treated as WM_PASTE's
   void WM_CLEAR();
   void EM_UNDO();
   void EM_REDO();
@@ -123,12 +131,20 @@ class MainText {
 
   void SendChar(char16_t character, int lParam);
   void DecorAfterChar(char16_t character, int lParam);
+  void DecorAfterMove();
   void Refresh();
   void SoftRefresh();
   void SetDragMode(bool drag);
   void SelectWord();
+  void Paste(std::u16string_view fromOutside, std::optional<Position> at);
   bool AcceptsLargePaste(std::u16string_view text);
-  bool SwitchedOn(std::u16string_view setting) const;
+  void OpenDropped(const std::vector<std::u16string>& files);
+  void MoveOrCopySelection(Position to, SelectionDrag drag);
+  void RunEdit(int index);
+  std::int32_t SwitchOf(std::u16string_view setting) const;
+
+  static constexpr std::int16_t kGateOpen = 9;
+  static constexpr std::int16_t kGateClosed = -1;
 
   EditControl& control_;
   ApplicationState& state_;
@@ -137,7 +153,9 @@ class MainText {
   TagAssistance& tags_;
   Clipboard& clipboard_;
   MessageBox& boxes_;
-  std::int16_t keyGate_ = -1;  // 9 between a KeyDown and its KeyPress
+  // 9 between a KeyDown and its KeyPress. A key that brings no character closes it too: its KeyUp may be lost
+  // to another window, and the next character of the program would be taken for a key.
+  std::int16_t keyGate_ = kGateClosed;
   bool subclassed_ = false;
   bool dragMode_ = false;
 };

@@ -40,12 +40,33 @@ MainText::Drop MainText::OLEDropFiles(const std::vector<std::u16string>& paths) 
                [&](const std::u16string& path) { return IsFile(common_, path); });
   if (files.size() < paths.size() || paths.empty()) host_.MessageToStatusBar(kOnlyFiles);
   if (files.empty()) return Drop::Refused;
-  if (SwitchedOn(u"DragAndDropFileData")) {
-    for (const std::u16string& file : files) host_.OpenInNewInstance(file);
-  } else {
-    host_.OpenDroppedFile(files.front());
+  return Guarded([&] { OpenDropped(files); }) ? Drop::Done : Drop::Refused;
+}
+
+void MainText::OpenDropped(const std::vector<std::u16string>& files) {
+  if (SwitchOf(u"DragAndDropFileData") != 1) return host_.OpenDroppedFile(files.front());
+  for (const std::u16string& file : files) host_.OpenInNewInstance(file);
+}
+
+void MainText::DropSelection(Position to, SelectionDrag drag) {
+  if (!RefuseIfLocked()) Guarded([&] { MoveOrCopySelection(to, drag); });
+}
+
+void MainText::MoveOrCopySelection(Position to, SelectionDrag drag) {
+  const Position begin = control_.SelStart();
+  const Position end = begin + control_.SelLength();
+  const bool move = drag == SelectionDrag::Move;
+  if (move && to >= begin && to <= end) return;
+  const std::u16string text = control_.SelText();
+  const EditScope oneStep(control_);
+  if (move) {
+    EM_REPLACESEL(u"");
+    if (to > end) to -= end - begin;
   }
-  return Drop::Done;
+  EM_SETSEL(to, to);
+  EM_REPLACESEL(text);
+  EM_SETSEL(to, to + static_cast<Position>(text.size()));
+  control_.EM_SCROLLCARET();
 }
 
 MainText::Drop MainText::OLEDropOther() {

@@ -63,15 +63,25 @@ bool MainText::AcceptsLargePaste(std::u16string_view text) {
 
 void MainText::WM_PASTE() {
   if (control_.Locked()) return;
-  Guarded([&] {
-    const std::u16string text = WithCrLf(clipboard_.Text());
-    if (text.empty() || !AcceptsLargePaste(text)) return;
-    EM_REPLACESEL(ExpandTabs(text));
-    control_.EM_SCROLLCARET();
-  });
+  Guarded([&] { Paste(clipboard_.Text(), std::nullopt); });
+}
+
+void MainText::PasteAt(Position at, std::u16string_view text) {
+  if (RefuseIfLocked()) return;
+  Guarded([&] { Paste(text, at); });
+}
+
+// Into the selection unless a position is given.
+void MainText::Paste(std::u16string_view fromOutside, std::optional<Position> at) {
+  const std::u16string text = WithCrLf(fromOutside);
+  if (text.empty() || !AcceptsLargePaste(text)) return;
+  if (at) EM_SETSEL(*at, *at);
+  EM_REPLACESEL(ExpandTabs(text));
+  control_.EM_SCROLLCARET();
 }
 
 void MainText::CommitInput(std::u16string_view text) {
+  keyGate_ = kGateClosed;
   if (control_.Locked() || text.empty()) return;
   Guarded([&] {
     EM_REPLACESEL(WithCrLf(text));

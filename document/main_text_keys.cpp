@@ -9,9 +9,6 @@ namespace kestri {
 namespace {
 
 constexpr char16_t kSwallowed = 0;
-constexpr std::int16_t kGateOpen = 9;
-constexpr std::int16_t kGateClosed = -1;
-
 enum KeyAscii : char16_t {
   kTab = 9,
   kEnter = 13,
@@ -40,8 +37,9 @@ class MainText::HiddenText {
 };
 
 bool MainText::KeyDown(int keyCode, int shift) {
-  keyGate_ = kGateOpen;
-  return keyCode == kKeyTab && shift == kControl;
+  const bool swallowed = keyCode == kKeyTab && shift == kControl;
+  keyGate_ = swallowed ? kGateClosed : kGateOpen;
+  return swallowed;
 }
 
 char16_t MainText::KeyPress(char16_t keyAscii) {
@@ -167,10 +165,12 @@ bool MainText::RefusedByAsciiArt() {
 }
 
 void MainText::KeyUp(int keyCode, int) {
-  if (state_.fileKind == kFileTypeHtml && state_.htmlNAVkeyB_AUTO == 1) tags_.seTagHint();
-  if (control_.Locked()) return;
-  keyGate_ = kGateClosed;
-  if (keyCode == kKeyHome && state_.tabASeT == 1) SmartHome();
+  Guarded([&] {
+    if (state_.fileKind == kFileTypeHtml && state_.htmlNAVkeyB_AUTO == 1) tags_.seTagHint();
+    if (control_.Locked()) return;
+    keyGate_ = kGateClosed;
+    if (keyCode == kKeyHome && state_.tabASeT == 1) SmartHome();
+  });
 }
 
 // The control has put the caret at the line's start by now, unless another key came in between.

@@ -59,8 +59,14 @@ void MainText::DecorAfterChar(char16_t character, int lParam) {
 }
 
 void MainText::WM_KEYDOWN(EditKey key, KeyModifiers modifiers) {
-  control_.WM_KEYDOWN(key, modifiers);
-  if (key == EditKey::Delete) return Refresh();
+  keyGate_ = kGateClosed;
+  Guarded([&] {
+    control_.WM_KEYDOWN(key, modifiers);
+    key == EditKey::Delete ? Refresh() : DecorAfterMove();
+  });
+}
+
+void MainText::DecorAfterMove() {
   if (!subclassed_) return;
   host_.ResetCaretMemo();
   host_.PaintTextDecor(control_.SelLength() == 0 ? MainTextHost::Decor::Full

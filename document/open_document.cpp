@@ -122,13 +122,12 @@ bool Document::AcceptsLength(const Opening& opening) {
 
 void Document::FinishOpening(const Opening& opening) {
   RestoreReadingPosition(opening.path);
-  ApplyOpenedFile(opening.path, opening.readOnly, opening.lineEnd);
+  constexpr std::u16string_view kReplaced = u"ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました";
+  ApplyOpenedFile(opening.path, opening.readOnly, opening.lineEnd,
+                  opening.unreadable ? kReplaced : std::u16string_view());
   onDisk_ = opening.onDisk;
   history_.RegisterHistory(opening.path);
   unreadableBytes_ = opening.unreadable;
-  if (unreadableBytes_) {
-    window_.MessageToStatusBar(u"ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました");
-  }
 }
 
 void Document::RestoreReadingPosition(const std::u16string& path) {

@@ -1,6 +1,8 @@
 // What is asked before a save would lose something that the user may not know of.
+#include <algorithm>
+
 #include "document/document.hpp"
-#include "shell/common/code_page.hpp"
+#include "document/lossy_characters.hpp"
 #include "shell/common/text.hpp"
 
 namespace kestri {
@@ -13,22 +15,8 @@ std::u16string QuotedName(const ClassCommon& common, std::u16string_view path) {
 }
 
 bool SameState(const FileStatus& left, const FileStatus& right) {
-  return left.size == right.size && left.modified == right.modified;
-}
-
-// Index of the first unit that the code page cannot hold; the text has at least one.
-std::size_t FirstLossyUnit(std::u16string_view text) {
-  std::size_t skipped = 0;
-  while (text.size() > 1) {
-    const std::u16string_view head = text.substr(0, text.size() / 2);
-    if (code_page::RoundTrips(head)) {
-      skipped += head.size();
-      text.remove_prefix(head.size());
-    } else {
-      text = head;
-    }
-  }
-  return skipped;
+  return left.size == right.size && left.modified == right.modified &&
+         left.modifiedNanoseconds == right.modifiedNanoseconds && left.inode == right.inode;
 }
 
 }  // namespace
@@ -58,24 +46,28 @@ bool Document::AgreesToUnreadableBytes(const std::u16string& path) {
          MessageAnswer::Yes;
 }
 
-bool Document::AgreesToLossyCharacters(std::u16string_view path) {
-  if (lossAccepted_) return true;
-  const std::u16string_view first = control_.FirstPiece();
-  const bool inFirst = !code_page::RoundTrips(first);
-  if (!inFirst && code_page::RoundTrips(control_.SecondPiece())) return true;
-  const std::size_t at =
-      inFirst ? FirstLossyUnit(first) : first.size() + FirstLossyUnit(control_.SecondPiece());
-  const auto position = static_cast<Position>(at);
-  const bool pair = (control_.At(position) & 0xFC00) == 0xD800;
+// A yes counts for the characters that stood in the text and for the file that was asked about.
+bool Document::AgreesToLossyCharacters(const std::u16string& path) {
+  const std::vector<LossyCharacter> lossy = LossyCharacters(control_);
+  if (path != acceptedLoss_.path) acceptedLoss_ = {path, {}};
+  std::set<char32_t>& accepted = acceptedLoss_.characters;
+  const auto added = std::find_if(lossy.begin(), lossy.end(), [&accepted](const LossyCharacter& one) {
+    return !accepted.contains(one.character);
+  });
+  if (added == lossy.end()) return true;
+  if (!AskAboutLoss(path, *added)) return false;
+  for (const LossyCharacter& one : lossy) accepted.insert(one.character);
+  return true;
+}
+
+bool Document::AskAboutLoss(const std::u16string& path, const LossyCharacter& added) {
   std::u16string text = QuotedName(common_, path);
   text.append(kCrLf).append(u"ｼﾌﾄJISで保存できない文字が含まれています");
-  text.append(u" (").append(ToText(control_.LineOf(position) + 1)).append(u"行目 「");
-  text.append(control_.Slice(position, pair ? 2 : 1)).append(u"」)");
+  text.append(u" (").append(ToText(control_.LineOf(added.position) + 1)).append(u"行目 「");
+  text.append(control_.Slice(added.position, added.character < 0x10000 ? 1 : 2)).append(u"」)");
   text.append(kCrLf).append(u"保存すると その文字は「?」などに置き換わります");
   text.append(kCrLf).append(u"このまま保存しますか？");
-  lossAccepted_ =
-      Ask(u"保存の確認 ", text, MessageIcon::Exclamation, MessageButtons::YesNo, 2) == MessageAnswer::Yes;
-  return lossAccepted_;
+  return Ask(u"保存の確認 ", text, MessageIcon::Exclamation, MessageButtons::YesNo, 2) == MessageAnswer::Yes;
 }
 
 }  // namespace kestri

@@ -21,6 +21,9 @@ class Shell {
   virtual std::u16string ProgramForMimeType(std::string_view mimeType) = 0;
   // Starts a program detached from this process. Arguments are passed as they stand.
   virtual bool StartProgram(std::u16string_view program, std::u16string_view argument) = 0;
+  // Starts a whole command line detached: words at blanks, double quotes hold a word together. False when the
+  // first word is no program.
+  virtual bool StartCommandLine(std::u16string_view commandLine) = 0;
 };
 
 }  // namespace kestri

@@ -14,6 +14,7 @@
 
 #include "platform/qt/qt_text.hpp"
 #include "ui/edit_view_accessible.hpp"
+#include "ui/line_rows.hpp"
 
 namespace kestri {
 namespace {
@@ -138,11 +139,22 @@ void EditView::SetLineEndMarks(bool on, int eofMarkType) {
 void EditView::SetLineNumbersShown(bool shown) {
   gutterShown_ = shown;
   LayOutFrame();
+  Schedule();
 }
 
 void EditView::SetPositionShown(bool shown) {
   stripShown_ = shown;
   LayOutFrame();
+  Schedule();
+}
+
+void EditView::InstallSubclass(int mode) {
+  text_.InstallSubclass(mode);
+  guides_ = GuideLines();
+  RebuildMarks();
+  LayOutFrame();
+  viewport()->update();
+  Schedule();
 }
 
 void EditView::SetBlanksShown(bool shown) {
@@ -150,10 +162,10 @@ void EditView::SetBlanksShown(bool shown) {
 }
 
 void EditView::LayOutFrame() {
-  gutter_->setVisible(gutterShown_);
-  strip_->setVisible(stripShown_);
-  const int left = gutterShown_ ? gutter_->WidthFor(control_.LineCount()) : 0;
-  const int top = stripShown_ ? strip_->StripHeight() : 0;
+  gutter_->setVisible(LineNumbersShown());
+  strip_->setVisible(PositionShown());
+  const int left = LineNumbersShown() ? gutter_->WidthFor(control_.LineCount()) : 0;
+  const int top = PositionShown() ? strip_->StripHeight() : 0;
   if (viewportMargins() != QMargins(left, top, 0, 0)) setViewportMargins(left, top, 0, 0);
   PlaceFrame();
 }
@@ -181,7 +193,7 @@ double EditView::TextLeft() const {
 }
 
 int EditView::RowTop(std::int32_t line) const {
-  return (line - FirstVisibleLine()) * Style().rowHeight;
+  return RowTopOf(line, FirstVisibleLine(), Style().rowHeight);
 }
 
 bool EditView::LineShows(std::int32_t line) const {
@@ -215,7 +227,7 @@ QRect EditView::RectOf(Position position) {
   const double x = XOf(position);
   const bool atEnd = position >= control_.LineEnd(line);
   const double width = atEnd ? Style().cell : std::abs(XOf(position + 1) - x);
-  return QRect(static_cast<int>(std::floor(TextLeft() + x)), RowTop(line), static_cast<int>(std::ceil(width)),
+  return QRect(NearPixels(std::floor(TextLeft() + x)), RowTop(line), NearPixels(std::ceil(width)),
                Style().rowHeight);
 }
 
@@ -224,7 +236,7 @@ QRect EditView::CaretRect() {
   const std::int32_t line = control_.LineOf(control_.Caret());
   const double x = Composing() ? layouts_.Line(line).XInInset(preeditCursor_) : XOf(control_.Caret());
   const int width = std::max(kCaretWidth, style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));
-  const int left = static_cast<int>(std::lround(TextLeft() + x)) - width / 2;
+  const int left = NearPixels(std::round(TextLeft() + x)) - width / 2;
   return QRect(left, RowTop(line), width, Style().rowHeight);
 }
 
@@ -245,7 +257,7 @@ void EditView::SetScrollPosition(ScrollState state) {
   pending_.scrollCaret = false;  // where the view stands is told, not where the caret is
   Flush();
   UpdateScrollRanges();
-  if (state.x > 0) NoteWidth(state.x + viewport()->width() - kTextMargin);
+  if (state.x > 0) NoteWidth(static_cast<double>(state.x) + viewport()->width() - kTextMargin);
   verticalScrollBar()->setValue(state.firstLine);
   horizontalScrollBar()->setValue(state.x);
 }
@@ -273,16 +285,27 @@ void EditView::EnsureCaretVisible() {
 // ---- events
 
 void EditView::scrollContentsBy(int dx, int dy) {
-  const int down = dy * Style().rowHeight;
-  shownCaret_.translate(dx, anchoring_ ? 0 : down);
   if (!anchoring_) {
     const bool near = std::abs(dx) < viewport()->width() && std::abs(dy) < VisibleRows();
+    const int down = HeightOfRows(dy, Style().rowHeight);
     near ? viewport()->scroll(dx, down) : viewport()->update();
+    CarryCaret(dx, down);
   }
   if (!flushing_) {
     UpdateDecor();
     if (hasFocus()) updateMicroFocus();
   }
+}
+
+// The caret goes with the text. One that was out of sight may have come into it.
+void EditView::CarryCaret(int dx, int dy) {
+  if (!shownCaret_.isNull()) shownCaret_.translate(dx, dy);
+  if (flushing_) return;
+  if (!viewport()->rect().intersects(shownCaret_)) shownCaret_ = CaretWhereItShows();
+}
+
+QRect EditView::CaretWhereItShows() {
+  return LineShows(control_.LineOf(control_.Caret())) ? CaretRect() : QRect();
 }
 
 bool EditView::event(QEvent* event) {

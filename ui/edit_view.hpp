@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "document/edit_control/edit_control.hpp"
+#include "document/input_mode.hpp"
 #include "document/main_text.hpp"
 #include "ui/color_scheme.hpp"
 #include "ui/edit_view_painter.hpp"
@@ -37,6 +38,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
 
   std::function<bool(QKeyEvent&)> keyFilter;  // sees every key press first; true: consumed
   std::function<void()> compositionStarted;   // the input method opened a pre-edit
+  std::function<void()> inputModeChanged;     // by SetInputMode, or by the input method's key in mode Off
   std::function<void()> caretMoved;           // once an event, after caret, selection or text changed
   std::function<QString(std::u16string_view)> familyOf;  // font family for a font name of the settings
 
@@ -49,10 +51,18 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void SetColorScheme(const ColorScheme& scheme);
   void SetGuideLines(bool on);
   void SetLineEndMarks(bool on, int eofMarkType);
-  void SetLineNumbersShown(bool shown);  // the gutter
+  void SetLineNumbersShown(bool shown);  // the gutter, and the position text at its head
   void SetPositionShown(bool shown);     // the strip with the position text
   void SetBlanksShown(bool shown);
-  bool LineEndMarksShown() const { return marksOn_ && FontAllowsLineEndMarks(fontName_); }
+  bool LineEndMarksShown() const {
+    return marksOn_ && FontAllowsLineEndMarks(fontName_) && text_.Subclassed();
+  }
+  bool LineNumbersShown() const { return gutterShown_ && text_.Subclassed(); }
+  bool PositionShown() const { return stripShown_ && LineNumbersShown(); }
+  bool GuideLinesShown() const { return guidesOn_ && text_.Subclassed(); }
+  // Lays the rules over the text, mode 1, or takes them off, with everything that shows of them: without them
+  // there are no line numbers, no position text, no line-end marks and no guide lines, whatever is set.
+  void InstallSubclass(int mode);
   const TextStyle& Style() const { return layouts_.Style(); }
 
   // What the window forwards from MainText's host interface.
@@ -71,11 +81,14 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void SetScrollPosition(ScrollState state);
   void EnsureCaretVisible();
   bool Composing() const { return !preedit_.text.isEmpty(); }
+  // A composition that is open enters the text first, in the script of the mode so far.
+  void SetInputMode(InputMode mode);
+  InputMode ChosenInputMode() const { return inputMode_; }
   std::int32_t FirstVisibleLine() const;
   int VisibleRows() const;  // whole rows, at least 1
   Position PositionAtPoint(QPoint viewportPoint);
   QRect RectOf(Position position);  // of the character at the position, in the viewport
-  // What a drag of the selection within the text ends in: one undo step, what was moved stays selected.
+  // What a drag of the selection within the text ends in.
   void MoveOrCopySelection(Position to, Qt::DropAction action);
   // Brings scroll bars, gutter and guide lines up to date now instead of when the event ends.
   void Flush();
@@ -129,6 +142,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
     bool all = false;
     bool text = false;
     bool scrollCaret = false;
+    bool startOver = false;  // another text: both scroll bars begin at 0
     std::int32_t firstDirty = INT32_MAX;
     std::int32_t lastDirty = -1;
     std::int32_t shiftFrom = 0;  // lines from here on moved down by shiftBy
@@ -157,6 +171,8 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool LineShows(std::int32_t line) const;
   int RowTop(std::int32_t line) const;
   double TextLeft() const;
+  void CarryCaret(int dx, int dy);
+  QRect CaretWhereItShows();
   void RestartBlink();
   void PaintCaret(QPainter& painter);
 
@@ -167,6 +183,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void Thaw();
   void NoteNewText();
   void NoteLinesShifted(const TextChange& change);
+  void StartOver();
   void FollowLinesAbove(std::int32_t by);
   void UpdateScrollRanges();
   void NoteWidth(double width);
@@ -193,7 +210,13 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void CommitFromInputMethod(const QInputMethodEvent& event);
   QPair<Position, Position> SurroundingRange() const;
 
-  // edit_view_mouse.cpp: mouse, drag and drop, menu.
+  // edit_view_input_mode.cpp: whether the input method may take keys.
+  bool InputMethodAllowed() const;
+  Qt::InputMethodHints InputHints() const;
+  void CommitComposition();
+  bool SwitchesInputMethodOn(const QKeyEvent& event);
+
+  // edit_view_mouse.cpp: mouse, menu, the selection clipboard.
   void PressLeft(QMouseEvent& event);
   void PressMiddle(QPoint point);
   void ExtendTo(QPoint point);
@@ -201,12 +224,14 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   std::pair<Position, Position> UnitAt(Position position) const;
   void SelectLines(std::int32_t anchorLine, std::int32_t line);
   bool InSelection(QPoint point);
-  void StartDrag();
-  MainText::Drop DropFromOutside(const QMimeData& dropped, Position at);
-  void SetDropCaret(Position at);
   void AutoScroll();
   void PublishSelection();
   void ShowStandardMenu(QPoint global);
+
+  // edit_view_drop.cpp: drag and drop.
+  void StartDrag();
+  MainText::Drop DropFromOutside(const QMimeData& dropped, Position at);
+  void SetDropCaret(Position at);
 
   EditControl& control_;
   MainText& text_;
@@ -245,6 +270,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   Inset preedit_;
   int preeditCursor_ = 0;
   bool preeditCursorShown_ = true;
+  InputMode inputMode_ = InputMode::Default;
 
   Grasp grasp_ = Grasp::None;
   SelectionUnit unit_ = SelectionUnit::Character;
@@ -255,6 +281,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   QPoint doubleClickPoint_;
   Position dropCaret_ = -1;
   bool droppedInside_ = false;
+  bool dragBringsText_ = false;
   bool selectionUnpublished_ = false;
   std::int32_t gutterAnchor_ = 0;
 

@@ -133,11 +133,12 @@ bool EditView::OwnsKey(const QKeyEvent& event) const {
 
 void EditView::keyPressEvent(QKeyEvent* event) {
   if (Composing()) return event->ignore();
+  if (SwitchesInputMethodOn(*event)) return event->accept();
   if (keyFilter && keyFilter(*event)) return event->accept();
   event->accept();
   const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
   if (tab && event->modifiers().testFlag(Qt::ControlModifier)) {
-    text_.KeyDown(kKeyTab, ShiftOf(*event));
+    text_.KeyDown(kKeyTab, kControl);
   } else if (!ControlKey(*event) && !CharacterKey(*event) && !CommandKey(*event)) {
     return event->ignore();
   }
@@ -235,7 +236,7 @@ void EditView::CommitFromInputMethod(const QInputMethodEvent& event) {
     text_.EM_SETSEL(begin, begin + event.replacementLength());
   }
   if (!event.commitString().isEmpty()) {
-    text_.CommitInput(FromQt(event.commitString()));
+    text_.CommitInput(CommittedAs(inputMode_, FromQt(event.commitString())));
   } else {
     text_.WM_CLEAR();
   }
@@ -287,9 +288,9 @@ QVariant EditView::inputMethodQuery(Qt::InputMethodQuery query) const {
   const Position caret = control_.Caret();
   switch (query) {
     case Qt::ImEnabled:
-      return !control_.Locked();
+      return InputMethodAllowed();
     case Qt::ImHints:
-      return static_cast<int>(Qt::ImhMultiLine);
+      return static_cast<int>(InputHints());
     case Qt::ImCursorRectangle:
     case Qt::ImAnchorRectangle: {
       const QRect caretRect = const_cast<EditView*>(this)->CaretRect();

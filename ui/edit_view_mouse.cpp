@@ -1,21 +1,17 @@
-// Mouse, drag and drop, context menu, the selection clipboard.
+// Mouse, context menu, the selection clipboard.
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDrag>
-#include <QDropEvent>
 #include <QInputMethod>
 #include <QMenu>
-#include <QMimeData>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QScrollBar>
-#include <QUrl>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/qt/qt_text.hpp"
+#include "ui/dropped_data.hpp"
 #include "ui/edit_view.hpp"
 #include "ui/word_bounds.hpp"
 
@@ -23,26 +19,7 @@ namespace kestri {
 namespace {
 
 constexpr int kAutoScrollMilliseconds = 40;
-constexpr int kDropScrollBand = 16;                // pixels at the edges where a drag scrolls
 constexpr Position kLargestPublished = 1'000'000;  // characters that go to the selection clipboard
-
-// Other programs of the desktop end their lines with LF.
-QString ForOtherPrograms(std::u16string_view text) {
-  return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
-
-std::u16string FromOtherPrograms(QString text) {
-  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  return FromQt(text.replace(QStringLiteral("\n"), QStringLiteral("\r\n")));
-}
-
-std::vector<std::u16string> LocalFiles(const QMimeData& data) {
-  std::vector<std::u16string> paths;
-  for (const QUrl& url : data.urls()) {
-    if (url.isLocalFile()) paths.push_back(FromQt(url.toLocalFile()));
-  }
-  return paths;
-}
 
 }  // namespace
 
@@ -93,12 +70,8 @@ void EditView::PressLeft(QMouseEvent& event) {
 
 void EditView::PressMiddle(QPoint point) {
   QClipboard& clipboard = *QGuiApplication::clipboard();
-  if (!clipboard.supportsSelection() || text_.RefuseIfLocked()) return;
-  const std::u16string text = FromOtherPrograms(clipboard.text(QClipboard::Selection));
-  if (text.empty()) return;
-  const Position at = PositionAtPoint(point);
-  text_.EM_SETSEL(at, at);
-  text_.ReplaceSelHwnd(text, true, true);
+  if (!clipboard.supportsSelection()) return;
+  text_.PasteAt(PositionAtPoint(point), FromQt(clipboard.text(QClipboard::Selection)));
 }
 
 void EditView::mouseMoveEvent(QMouseEvent* event) {
@@ -129,6 +102,8 @@ void EditView::mouseReleaseEvent(QMouseEvent* event) {
 
 void EditView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return mousePressEvent(event);
+  if (Composing()) QGuiApplication::inputMethod()->commit();
+  text_.MouseDown();
   const QPoint point = event->position().toPoint();
   const Position at = PositionAtPoint(point);
   sinceDoubleClick_.start();
@@ -214,95 +189,7 @@ void EditView::PublishSelection() {
   const Position length = control_.SelLength();
   QClipboard& clipboard = *QGuiApplication::clipboard();
   if (length == 0 || length > kLargestPublished || !clipboard.supportsSelection()) return;
-  clipboard.setText(ForOtherPrograms(control_.SelText()), QClipboard::Selection);
-}
-
-// ---- drag and drop
-
-void EditView::StartDrag() {
-  auto* dragged = new QMimeData;
-  dragged->setText(ForOtherPrograms(control_.SelText()));
-  const QPointer<EditView> self(this);
-  auto* drag = new QDrag(this);
-  drag->setMimeData(dragged);
-  droppedInside_ = false;
-  grasp_ = Grasp::None;
-  const Qt::DropActions allowed = control_.Locked() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
-  const Qt::DropAction done = drag->exec(allowed, control_.Locked() ? Qt::CopyAction : Qt::MoveAction);
-  if (!self) return;
-  if (done == Qt::MoveAction && !droppedInside_ && !control_.Locked()) text_.WM_CLEAR();
-  text_.WM_BUTTONUP();
-  SetDropCaret(-1);
-  Flush();
-}
-
-void EditView::dragEnterEvent(QDragEnterEvent* event) {
-  event->acceptProposedAction();
-}
-
-void EditView::dragMoveEvent(QDragMoveEvent* event) {
-  const QPoint point = event->position().toPoint();
-  if (point.y() < kDropScrollBand) verticalScrollBar()->setValue(FirstVisibleLine() - 1);
-  if (point.y() > viewport()->height() - kDropScrollBand)
-    verticalScrollBar()->setValue(FirstVisibleLine() + 1);
-  SetDropCaret(event->mimeData()->hasUrls() ? -1 : PositionAtPoint(point));
-  event->acceptProposedAction();
-}
-
-void EditView::dragLeaveEvent(QDragLeaveEvent*) {
-  SetDropCaret(-1);
-}
-
-void EditView::dropEvent(QDropEvent* event) {
-  const Position at = PositionAtPoint(event->position().toPoint());
-  SetDropCaret(-1);
-  if (event->source() == this) {
-    event->acceptProposedAction();
-    droppedInside_ = true;
-    MoveOrCopySelection(at, event->dropAction());
-  } else {
-    // Nothing from outside is ever taken away from where it came from, least of all when it was refused.
-    event->setDropAction(Qt::CopyAction);
-    event->setAccepted(DropFromOutside(*event->mimeData(), at) == MainText::Drop::Done);
-  }
-  Flush();
-}
-
-void EditView::MoveOrCopySelection(Position to, Qt::DropAction action) {
-  if (text_.RefuseIfLocked()) return;
-  const Position begin = control_.SelStart();
-  const Position end = begin + control_.SelLength();
-  const bool move = action == Qt::MoveAction;
-  if (move && to >= begin && to <= end) return;
-  const std::u16string text = control_.SelText();
-  const EditScope oneStep(control_);
-  if (move) {
-    text_.EM_REPLACESEL(u"");
-    if (to > end) to -= end - begin;
-  }
-  text_.EM_SETSEL(to, to);
-  text_.EM_REPLACESEL(text);
-  text_.EM_SETSEL(to, to + static_cast<Position>(text.size()));
-  ScrollCaret();
-}
-
-// A file manager offers the paths as text too, so files are looked for first.
-MainText::Drop EditView::DropFromOutside(const QMimeData& dropped, Position at) {
-  const std::vector<std::u16string> files = LocalFiles(dropped);
-  if (!files.empty()) return text_.OLEDropFiles(files);
-  if (!dropped.hasText()) return text_.OLEDropOther();
-  text_.EM_SETSEL(at, at);
-  return text_.OLEDropText(FromOtherPrograms(dropped.text()));
-}
-
-void EditView::SetDropCaret(Position at) {
-  const auto repaint = [this] {
-    if (dropCaret_ >= 0) viewport()->update(RectOf(dropCaret_).adjusted(-2, 0, 2, 0));
-  };
-  if (at == dropCaret_) return;
-  repaint();
-  dropCaret_ = at;
-  repaint();
+  clipboard.setText(DesktopText(control_.SelText()), QClipboard::Selection);
 }
 
 // ---- context menu
@@ -331,7 +218,7 @@ void EditView::ShowStandardMenu(QPoint global) {
   add(QStringLiteral("やり直し(&R)"), writable && control_.EM_CANREDO(), [this] { text_.MenUNDO(1); });
   menu->addSeparator();
   add(QStringLiteral("切り取り(&T)"), writable && selected, [this] { text_.Edit(0); });
-  add(QStringLiteral("ｺﾋﾟｰ(&C)"), selected, [this] { text_.Edit(1); });
+  add(QStringLiteral("ｺﾋﾟｰ(&C)"), selected, [this] { text_.WM_COPY(); });
   add(QStringLiteral("貼り付け(&P)"), writable, [this] { text_.Edit(2); });
   add(QStringLiteral("削除"), writable && selected, [this] { text_.Edit(3); });
   menu->addSeparator();

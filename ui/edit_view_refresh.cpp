@@ -7,12 +7,14 @@
 
 #include "ui/edit_view.hpp"
 #include "ui/edit_view_accessible.hpp"
+#include "ui/line_rows.hpp"
 
 namespace kestri {
 namespace {
 
 constexpr int kIdleMilliseconds = 50;
 constexpr QPoint kNoMemo(-10000, -10000);
+constexpr double kMostScrolled = 1 << 30;  // pixels to the right
 
 }  // namespace
 
@@ -66,6 +68,7 @@ void EditView::NoteNewText() {
   seenWidth_ = 0;
   pending_.all = true;
   pending_.scrollCaret = true;
+  pending_.startOver = true;
 }
 
 void EditView::NoteLinesShifted(const TextChange& change) {
@@ -111,6 +114,7 @@ void EditView::Flush() {
   flushing_ = true;
   const Pending pending = std::exchange(pending_, Pending());
   if (Composing()) ApplyInset();
+  if (pending.startOver) StartOver();
   if (pending.anchorBy != 0) FollowLinesAbove(pending.anchorBy);
   UpdateScrollRanges();
   UpdateChangedRows(pending);
@@ -124,6 +128,13 @@ void EditView::Flush() {
   flushing_ = false;
   if (caretMoved) caretMoved();
   if (pending_.any) Post();
+}
+
+// The scroll bars' ranges follow the text that shows only from here on: a bar's place would hold on to the
+// old one.
+void EditView::StartOver() {
+  verticalScrollBar()->setValue(0);
+  horizontalScrollBar()->setValue(0);
 }
 
 // What shows stays where it is on the screen.
@@ -185,7 +196,7 @@ void EditView::UpdateSelectionRows(bool textChanged) {
 
 void EditView::UpdateCaret() {
   const QRect old = shownCaret_;
-  shownCaret_ = LineShows(control_.LineOf(control_.Caret())) ? CaretRect() : QRect();
+  shownCaret_ = CaretWhereItShows();
   viewport()->update(old);
   viewport()->update(shownCaret_);
   RestartBlink();
@@ -193,17 +204,18 @@ void EditView::UpdateCaret() {
 
 void EditView::UpdateDecor() {
   const std::int32_t line = control_.EM_LINEFROMCHAR(-1);
-  if (gutterShown_)
+  if (LineNumbersShown())
     gutter_->Show({FirstVisibleLine(), control_.LineCount(), line, control_.SelLength() == 0});
-  if (stripShown_) strip_->Show(line + 1, control_.LineCount());
-  if (guidesOn_) MoveGuides();
+  if (PositionShown()) strip_->Show(line + 1, control_.LineCount());
+  if (GuideLinesShown()) MoveGuides();
 }
 
 void EditView::MoveGuides() {
-  if (!hasFocus()) return;
+  const bool selected = control_.SelLength() != 0;
+  if (!hasFocus() && !selected) return;
   GuideLines now;
   const std::int32_t line = control_.LineOf(control_.Caret());
-  now.visible = LineShows(line) && control_.SelLength() == 0;
+  now.visible = LineShows(line) && !selected;
   if (now.visible) {
     now.line = line;
     now.x = CaretRect().center().x() - TextLeft();
@@ -215,8 +227,8 @@ void EditView::MoveGuides() {
 }
 
 std::optional<GuideRects> EditView::ShownGuides() const {
-  if (!guidesOn_ || !guides_.visible) return std::nullopt;
-  return GuideRectsAt(static_cast<int>(std::lround(guides_.x + TextLeft())),
+  if (!GuideLinesShown() || !guides_.visible) return std::nullopt;
+  return GuideRectsAt(NearPixels(std::round(guides_.x + TextLeft())),
                       RowTop(guides_.line) + Style().rowHeight, viewport()->size());
 }
 
@@ -224,13 +236,14 @@ void EditView::UpdateScrollRanges() {
   const int rows = VisibleRows();
   verticalScrollBar()->setRange(0, std::max(0, control_.LineCount() - rows));
   verticalScrollBar()->setPageStep(rows);
-  if (gutterShown_ && styleBuilt_ && gutter_->WidthFor(control_.LineCount()) != viewportMargins().left())
+  if (LineNumbersShown() && styleBuilt_ &&
+      gutter_->WidthFor(control_.LineCount()) != viewportMargins().left())
     LayOutFrame();
   NoteWidth(0);
 }
 
-// Beyond the view's edge the width grows in steps, so that typing in a long line does not repaint the scroll bar at
-// every key.
+// Beyond the view's edge the width grows in steps, so that typing in a long line does not repaint the scroll
+// bar at every key.
 void EditView::NoteWidth(double width) {
   if (width > seenWidth_) {
     const double step = 16 * Style().cell;
@@ -239,7 +252,7 @@ void EditView::NoteWidth(double width) {
   const double roomForMark = marks_.CellSize().width() + 2 * Style().cell;
   const double content = kTextMargin + seenWidth_ + roomForMark;
   QScrollBar& bar = *horizontalScrollBar();
-  const int most = static_cast<int>(std::clamp(content - viewport()->width(), 0.0, 2e9));
+  const int most = static_cast<int>(std::clamp(content - viewport()->width(), 0.0, kMostScrolled));
   bar.setRange(0, std::max(most, bar.value() > most ? bar.value() : 0));
   bar.setPageStep(viewport()->width());
   bar.setSingleStep(static_cast<int>(2 * Style().cell));

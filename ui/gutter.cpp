@@ -9,6 +9,7 @@
 
 #include "platform/qt/qt_text.hpp"
 #include "shell/common/text.hpp"
+#include "ui/line_rows.hpp"
 
 namespace kestri {
 namespace {
@@ -60,22 +61,16 @@ void Gutter::RepaintRowsAround(std::int32_t caretLine) {
 void Gutter::Show(const GutterState& state) {
   if (state == state_) return;
   const GutterState old = std::exchange(state_, state);
-  const std::int32_t scrolled = old.firstLine - state.firstLine;
-  if (scrolled != 0) {
-    if (std::abs(scrolled) * style_.rowHeight < height()) {
-      scroll(0, scrolled * style_.rowHeight);
-    } else {
-      update();
-    }
-  }
+  const int scrolled = RowTopOf(old.firstLine, state.firstLine, style_.rowHeight);
+  if (scrolled != 0) std::abs(scrolled) < height() ? scroll(0, scrolled) : update();
   if (old.caretLine != state.caretLine || old.markShown != state.markShown) {
     RepaintRow(old.caretLine);
     RepaintRow(state.caretLine);
   }
   if (old.lineCount != state.lineCount) {
     const auto [fewer, more] = std::minmax(old.lineCount, state.lineCount);
-    const int top = std::max(0, fewer - state.firstLine) * style_.rowHeight;
-    const std::int64_t bottom = static_cast<std::int64_t>(more - state.firstLine) * style_.rowHeight;
+    const int top = std::max(0, RowTopOf(fewer, state.firstLine, style_.rowHeight));
+    const int bottom = RowTopOf(more, state.firstLine, style_.rowHeight);
     if (top < height() && bottom > top) update(0, top, width(), height() - top);
   }
 }

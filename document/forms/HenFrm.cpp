@@ -10,6 +10,7 @@
 
 #include "platform/qt/qt_text.hpp"
 #include "ui/common_dialogs.hpp"
+#include "ui/window_helpers.hpp"
 
 namespace kestri {
 namespace {
@@ -130,7 +131,7 @@ void HenFrm::SetSource(std::u16string_view path) {
 }
 
 bool HenFrm::Run() {
-  while (exec() == QDialog::Accepted) {
+  while (ShowModalWindow(*this, parentWidget()) == QDialog::Accepted) {
     if (conversion_.OpenTarget()) return true;
   }
   return false;

@@ -2,7 +2,9 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
-#include <QTranslator>
+#include <QLocale>
+
+#include "platform/qt/japanese_words.hpp"
 
 namespace kestri {
 
@@ -10,12 +12,14 @@ void InstallJapaneseLabels() {
   QCoreApplication* application = QCoreApplication::instance();
   const auto name = QStringLiteral("qtbase_ja");
   if (application->findChild<QTranslator*>(name) != nullptr) return;
+  QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan));
   auto* translator = new QTranslator(application);
   translator->setObjectName(name);
   if (translator->load(name, QCoreApplication::applicationDirPath() + QStringLiteral("/lib")) ||
       translator->load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(translator);
   }
+  QCoreApplication::installTranslator(new JapaneseWords(application));
 }
 
 }  // namespace kestri

@@ -3,8 +3,9 @@
 
 namespace kestri {
 
-// Loads the toolkit's Japanese texts once, from lib/ beside the program or from the toolkit's own folder.
-// Called before the first dialog, so that the start does not pay for it.
+// Loads the toolkit's Japanese texts once, from lib/ beside the program or from the toolkit's own folder, and
+// makes Japanese the language of names of file kinds. Called before the first dialog, so that the start does
+// not pay for it.
 void InstallJapaneseLabels();
 
 }  // namespace kestri

@@ -3,16 +3,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
-#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QHeaderView>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTreeView>
+#include <utility>
 
 #include "platform/qt/dialog_owner.hpp"
+#include "platform/qt/file_columns.hpp"
 #include "platform/qt/japanese_labels.hpp"
 #include "platform/qt/qt_text.hpp"
 
@@ -21,21 +20,14 @@ namespace {
 
 constexpr QSize kDialogSize(760, 520);  // room for names, sizes, kinds and dates
 
-// The kind column in Japanese, whatever the toolkit's own texts cover.
-class FileTypes : public QFileIconProvider {
- public:
-  QString type(const QFileInfo& info) const override {
-    return info.isDir() ? QStringLiteral("フォルダ") : QFileIconProvider::type(info);
+// The mnemonics of the labels lead to their lists.
+void JoinLabels(QFileDialog& dialog) {
+  constexpr std::pair<const char*, const char*> kPairs[] = {{"lookInLabel", "lookInCombo"},
+                                                            {"fileTypeLabel", "fileTypeCombo"}};
+  for (const auto& [label, field] : kPairs) {
+    auto* words = dialog.findChild<QLabel*>(QLatin1String(label));
+    if (words != nullptr) words->setBuddy(dialog.findChild<QWidget*>(QLatin1String(field)));
   }
-};
-
-// Names take the room that is left; sizes, kinds and dates are never cut.
-void FitColumns(QFileDialog& dialog) {
-  auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
-  if (list == nullptr) return;
-  list->header()->setStretchLastSection(false);
-  list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
@@ -43,7 +35,8 @@ void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setWindowTitle(ToQt(request.title));
   dialog.resize(kDialogSize);
-  FitColumns(dialog);
+  DressColumns(dialog);
+  JoinLabels(dialog);
   const QStringList filters = NameFilters(request.filter);
   dialog.setNameFilters(filters);
   const int row = qBound(1, request.filterIndex, qMax<int>(1, static_cast<int>(filters.size())));
@@ -160,10 +153,11 @@ std::optional<std::u16string> QtFileDialog::AskFolder(const std::u16string& titl
   InstallJapaneseLabels();
   FileTypes types;
   QFileDialog dialog(DialogOwner(owner_), ToQt(title), ToQtPath(folder));
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setIconProvider(&types);
   dialog.resize(kDialogSize);
-  FitColumns(dialog);
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  DressColumns(dialog);
+  JoinLabels(dialog);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

@@ -110,4 +110,11 @@ bool QtShell::StartProgram(std::u16string_view program, std::u16string_view argu
   return QProcess::startDetached(ToQtPath(program), arguments);
 }
 
+bool QtShell::StartCommandLine(std::u16string_view commandLine) {
+  QStringList words = QProcess::splitCommand(ToQtPath(commandLine));
+  if (words.isEmpty()) return false;
+  const QString program = words.takeFirst();
+  return QProcess::startDetached(program, words);
+}
+
 }  // namespace kestri

@@ -15,6 +15,7 @@ class QtShell : public Shell {
   void AddToRecentDocuments(std::u16string_view path) override;
   std::u16string ProgramForMimeType(std::string_view mimeType) override;
   bool StartProgram(std::u16string_view program, std::u16string_view argument) override;
+  bool StartCommandLine(std::u16string_view commandLine) override;
 };
 
 }  // namespace kestri

@@ -21,7 +21,8 @@ class Backups : public DocumentTest {
   }
   std::vector<std::string> Copies() const {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(folder.Path()) / "backup")) {
+    for (const auto& entry :
+         std::filesystem::directory_iterator(std::filesystem::path(folder.Path()) / "backup")) {
       names.push_back(entry.path().filename().string());
     }
     return names;
@@ -57,6 +58,16 @@ TEST_F(Backups, OverwritingKeepsTheOldContentInTheCopy) {
   ASSERT_EQ(Copies().size(), 1U);
   ExpectDated(Copies()[0], "a[20030201_040506_", "].txt");
   EXPECT_EQ(Bytes(Whole("backup/" + Copies()[0])), "old\r\n");
+}
+
+TEST_F(Backups, TheCopyIsAsPrivateAsTheFile) {
+  const auto path = Change();
+  ::chmod(ToUtf8(path).c_str(), 0600);
+  EXPECT_TRUE(document->OverwriteSave());
+  ASSERT_EQ(Copies().size(), 1U);
+  struct stat status {};
+  ASSERT_EQ(::stat(ToUtf8(Whole("backup/" + Copies()[0])).c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0600U);
 }
 
 TEST_F(Backups, OddFileNamesAreCopied) {

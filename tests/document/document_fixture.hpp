@@ -33,6 +33,9 @@ class FaultyFileSystem : public PosixFileSystem {
     if (path != faultyReplace) return PosixFileSystem::Replace(path, producer);
     return false;
   }
+  bool ReplaceOrdered(std::u16string_view path, const ByteProducer& producer) override {
+    return path != faultyReplace && PosixFileSystem::ReplaceOrdered(path, producer);
+  }
   bool ReplaceUnsynced(std::u16string_view path, const ByteProducer& producer) override {
     return path != faultyReplace && PosixFileSystem::ReplaceUnsynced(path, producer);
   }
@@ -138,6 +141,7 @@ class DocumentTest : public ::testing::Test {
   };
 
   fakes::TemporaryFolder folder;
+  fakes::ScopedVariable runtime{"XDG_RUNTIME_DIR", folder.Path("run")};  // where locks are kept
   FaultyFileSystem files;
   fakes::FakeEnvironment environment;
   fakes::FakeShell shell;

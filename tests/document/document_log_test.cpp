@@ -24,6 +24,12 @@ TEST_F(ProgramLog, LineBreaksInASubjectForgeNoLine) {
   EXPECT_EQ(log, "2003/02/01 04:05:06 message  2003/02/01 forged \"/tmp/a 2003/02/01 forged \"\r\n");
 }
 
+TEST_F(ProgramLog, ALogThatCannotBeWrittenHidesNoMessage) {
+  std::filesystem::create_directory(ToUtf8(Whole("program/Kestri.log")));
+  EXPECT_FALSE(Open(Work("missing.txt")));
+  EXPECT_EQ(boxes.asked.size(), 1U);
+}
+
 TEST_F(ProgramLog, FailedAppendIsSwallowed) {
   files.faultyAppend = true;
   EXPECT_FALSE(document->WriteLog(u"message", u""));

@@ -75,6 +75,32 @@ class ManyInstances : public DocumentTest {
     return number;
   }
 
+  // What the end of a process writes: settings of its own in one change, and its leave from the log.
+  std::int32_t Close(std::int32_t number, InstanceLog::Others others) {
+    state.windowNumber = number;
+    const bool saved = SaveSettings(number);
+    log.Unregister(others);
+    return saved ? 1 : 0;
+  }
+
+  bool SaveSettings(std::int32_t number) {
+    return common->Profiles().Update(common->IniPath(0, u"Kestri"), [number](ProfileContent& content) {
+      for (int key = 0; key < kKeys; ++key)
+        content.Set("Setting", KeyOf(number, key), std::to_string(number));
+    });
+  }
+
+  void ExpectSettings(std::int32_t number) const {
+    for (int key = 0; key < kKeys; ++key) {
+      EXPECT_EQ(ToUtf8(Get(u"Setting", FromUtf8(KeyOf(number, key)))), std::to_string(number));
+    }
+  }
+
+  static constexpr int kKeys = 10;
+  static std::string KeyOf(std::int32_t number, int key) {
+    return "Key" + std::to_string(number) + "_" + std::to_string(key);
+  }
+
   posix::InstanceSocket socket{ToUtf8(Whole("state/instances"))};
   InstanceLog log{*common, state};
 };
@@ -97,6 +123,50 @@ TEST_F(ManyInstances, ThirtyStartedAtOnceTakeThirtyNumbers) {
     EXPECT_EQ(ToUtf8(entry.file), "/d/" + std::to_string(entry.number) + ".htm");
   }
   EXPECT_EQ(handles, std::set<std::int64_t>(crowd.Processes().begin(), crowd.Processes().end()));
+}
+
+std::size_t LinesOf(const std::string& bytes) {
+  return static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+}
+
+TEST_F(ManyInstances, ThirtyStartedAtOnceLeaveLogAndSettingsWhole) {
+  constexpr int kMany = 30;
+  Crowd crowd;
+  for (int i = 0; i < kMany; ++i) {
+    crowd.Add([this] {
+      const std::int32_t number = Assign();
+      document->RegisterHistory(Work("file" + std::to_string(number) + ".htm"));
+      return SaveSettings(number) ? number : 0;
+    });
+  }
+  for (const std::int32_t number : crowd.Go()) ExpectSettings(number);
+  std::set<std::u16string> history;
+  for (const std::u16string& path : document->History().Entries(u"")) history.insert(path);
+  EXPECT_EQ(history.size(), static_cast<std::size_t>(FileHistory::kLength));
+  EXPECT_FALSE(history.contains(u""));
+  constexpr std::size_t kSettingLines = 1 + kMany * kKeys;
+  EXPECT_EQ(LinesOf(Bytes(common->IniPath(0, u"Kestri"))), kSettingLines + 1 + FileHistory::kLength);
+  EXPECT_EQ(LinesOf(Bytes(log.Path())), 2U * (1 + kMany));
+}
+
+TEST_F(ManyInstances, TwoThatCloseAtOnceKeepBothSetsOfKeys) {
+  environment.processes = {environment.executable, environment.executable};
+  for (int round = 0; round < 20; ++round) {
+    for (const std::int32_t number : {1, 2, 3}) {
+      state.windowNumber = number;
+      log.Register(u"/d/a.htm");
+    }
+    std::filesystem::remove(ToUtf8(common->IniPath(0, u"Kestri")));
+    Crowd crowd;
+    crowd.Add([this] { return Close(1, InstanceLog::Others::Running); });
+    crowd.Add([this] { return Close(2, InstanceLog::Others::None); });
+    EXPECT_EQ(crowd.Go(), (std::vector<std::int32_t>{1, 1}));
+    ExpectSettings(1);
+    ExpectSettings(2);
+    const auto entries = log.Entries(5);
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries[0].number, 3);
+  }
 }
 
 TEST_F(ManyInstances, NumberOfAKilledInstanceIsReused) {

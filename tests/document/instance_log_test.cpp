@@ -111,6 +111,41 @@ TEST_F(Instances, ClosingOneOfTwoKeepsTheOthersEntries) {
   EXPECT_EQ(FromInstanceLog(u"HWND", u"002HWND"), u"(none)");
 }
 
+TEST_F(Instances, OneThatStartedSinceTheLastWasCountedKeepsItsEntries) {
+  log.Register(u"/d/a");
+  Record(u"002HWND", u"200");
+  environment.processes = {environment.executable, environment.executable};
+  log.Unregister(InstanceLog::Others::None);
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"001HWND"), u"(none)");
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"002HWND"), u"200");
+}
+
+TEST_F(Instances, ALogThatVanishedIsMadeAgainAndMissedByNobody) {
+  log.Register(u"/d/a");
+  std::filesystem::remove(ToUtf8(log.Path()));
+  EXPECT_TRUE(log.Entries(5).empty());
+  log.Unregister(InstanceLog::Others::Running);
+  EXPECT_FALSE(Exists(log.Path()));
+  ASSERT_TRUE(Open(MakeFile("b.htm", "b\r\n")));
+  EXPECT_EQ(FromInstanceLog(u"OPENFILE", u"001FILE"), Work("b.htm"));
+  log.Unregister(InstanceLog::Others::None);
+  log.Unregister(InstanceLog::Others::None);
+  EXPECT_FALSE(Exists(log.Path()));
+}
+
+TEST_F(Instances, ALogThatCannotBeWrittenStopsNeitherOpeningNorSaving) {
+  std::filesystem::create_directory(ToUtf8(log.Path()));
+  const auto path = MakeFile("a.htm", "a\r\n");
+  ASSERT_TRUE(Open(path));
+  Type(u"x");
+  EXPECT_TRUE(document->OverwriteSave());
+  EXPECT_EQ(Bytes(path), "xa\r\n");
+  EXPECT_TRUE(boxes.asked.empty());
+  log.Unregister(InstanceLog::Others::Running);
+  log.Unregister(InstanceLog::Others::None);
+  EXPECT_TRUE(Exists(log.Path()));
+}
+
 TEST_F(Instances, ClosingTheLastRemovesTheFile) {
   log.Register(u"/d/a");
   log.Unregister(InstanceLog::Others::None);

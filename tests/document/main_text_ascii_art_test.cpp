@@ -33,27 +33,30 @@ TEST_P(BlankInAsciiArt, IsAcceptedOrRefused) {
   EXPECT_EQ(desk.Messages(), GetParam().messages);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, BlankInAsciiArt,
-                         testing::Values(BlankRow{"EmptyDocument", u"‸", u"‸", {kHead}},
-                                         BlankRow{"TextsStart", u"‸a", u"‸a", {kHead}},
-                                         BlankRow{"TextsStartBeforeABlank", u"‸ a", u"‸ a", {kHead}},
-                                         BlankRow{"SelectionFromTheTextsStart", u"⟦a⟧b", u"⟦a⟧b", {kHead}},
-                                         BlankRow{"LineHead", u"a\n‸b", u"a\n‸b", {kHead}},
-                                         BlankRow{"EmptyLine", u"a\n‸\nb", u"a\n‸\nb", {kHead}},
-                                         BlankRow{"SelectionFromALineHead", u"a\n⟦b⟧c", u"a\n⟦b⟧c", {kHead}},
-                                         BlankRow{"AfterACharacter", u"a‸b", u"a ‸b", {}},
-                                         BlankRow{"LineEndAfterACharacter", u"あ‸\nい", u"あ ‸\nい", {}},
-                                         BlankRow{"TextsEndAfterACharacter", u"∧＿∧‸", u"∧＿∧ ‸", {}},
-                                         BlankRow{"AfterABlank", u"a ‸b", u"a⟦ ⟧b", {kBeside}},
-                                         BlankRow{"BeforeABlank", u"a‸ b", u"a⟦ ⟧b", {kBeside}},
-                                         BlankRow{"LineHeadBeforeABlank", u"a\n‸ b", u"a\n⟦ ⟧b", {kBeside}},
-                                         BlankRow{"AfterAFullWidthBlank", u"a　‸b", u"a　 ‸b", {}},
-                                         BlankRow{"SelectionAfterABlank", u"a ⟦b⟧c", u"a⟦ ⟧bc", {kBeside}},
-                                         BlankRow{"SelectionBeforeABlank", u"a⟦b⟧ c", u"ab⟦ ⟧c", {kBeside}},
-                                         BlankRow{"SelectionBetweenCharacters", u"a⟦bc⟧d", u"a ‸d", {}},
-                                         BlankRow{"SelectionThatHoldsBlanks", u"a⟦ b ⟧c", u"a ‸c", {}},
-                                         BlankRow{"SelectionOfTheOffendingBlank", u"a⟦ ⟧b", u"a ‸b", {}}),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    Rows, BlankInAsciiArt,
+    testing::Values(BlankRow{"EmptyDocument", u"‸", u"‸", {kHead}},
+                    BlankRow{"TextsStart", u"‸a", u"‸a", {kHead}},
+                    BlankRow{"TextsStartBeforeABlank", u"‸ a", u"‸ a", {kHead}},
+                    BlankRow{"SelectionFromTheTextsStart", u"⟦a⟧b", u"⟦a⟧b", {kHead}},
+                    BlankRow{"LineHead", u"a\n‸b", u"a\n‸b", {kHead}},
+                    BlankRow{"EmptyLine", u"a\n‸\nb", u"a\n‸\nb", {kHead}},
+                    BlankRow{"SelectionFromALineHead", u"a\n⟦b⟧c", u"a\n⟦b⟧c", {kHead}},
+                    BlankRow{"AfterACharacter", u"a‸b", u"a ‸b", {}},
+                    BlankRow{"LineEndAfterACharacter", u"あ‸\nい", u"あ ‸\nい", {}},
+                    BlankRow{"TextsEndAfterACharacter", u"∧＿∧‸", u"∧＿∧ ‸", {}},
+                    BlankRow{"AfterABlank", u"a ‸b", u"a⟦ ⟧b", {kBeside}},
+                    BlankRow{"BeforeABlank", u"a‸ b", u"a⟦ ⟧b", {kBeside}},
+                    BlankRow{"LineHeadBeforeABlank", u"a\n‸ b", u"a\n⟦ ⟧b", {kBeside}},
+                    BlankRow{"AfterAFullWidthBlank", u"a　‸b", u"a　 ‸b", {}},
+                    BlankRow{"SelectionAfterABlank", u"a ⟦b⟧c", u"a⟦ ⟧bc", {kBeside}},
+                    BlankRow{"SelectionBeforeABlank", u"a⟦b⟧ c", u"ab⟦ ⟧c", {kBeside}},
+                    BlankRow{"SelectionBetweenCharacters", u"a⟦bc⟧d", u"a ‸d", {}},
+                    BlankRow{"SelectionThatBeginsWithABlank", u"a⟦ b⟧c", u"a⟦ ⟧bc", {kBeside}},
+                    BlankRow{"SelectionThatEndsWithABlank", u"a⟦b ⟧c", u"ab⟦ ⟧c", {kBeside}},
+                    BlankRow{"SelectionOfTheOffendingBlank", u"a⟦ ⟧b", u"a⟦ ⟧b", {kBeside}},
+                    BlankRow{"SelectionWithABlankInside", u"a⟦b c⟧d", u"a ‸d", {}}),
+    [](const auto& test) { return test.param.name; });
 
 TEST(AsciiArt, RefusesATabWithoutSelection) {
   MainTextDesk desk;

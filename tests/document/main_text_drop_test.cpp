@@ -53,6 +53,12 @@ TEST_F(DroppedFiles, OpenTheFirstOneHereWhenSetSo) {
   EXPECT_THAT(desk.journal, ElementsAre("unload popups", "bring to front", "open here: /home/author/猫.htm"));
 }
 
+TEST_F(DroppedFiles, OpenHereWithEverySettingButOne) {
+  desk.SetSetting(u"DragAndDropFileData", u"2");
+  EXPECT_EQ(desk.text.OLEDropFiles({u"/home/author/猫.htm"}), MainText::Drop::Done);
+  EXPECT_THAT(desk.Lines({"open"}), ElementsAre("open here: /home/author/猫.htm"));
+}
+
 TEST_F(DroppedFiles, OpenFromAReadOnlyDocumentToo) {
   desk.control.SetLocked(true);
   EXPECT_EQ(desk.text.OLEDropFiles({u"/home/author/猫.htm"}), MainText::Drop::Done);
@@ -73,6 +79,33 @@ TEST_F(DroppedFiles, BesideAFolderAreOpenedAndTheFolderIsToldOf) {
 TEST_F(DroppedFiles, ThatAreGoneAreNone) {
   EXPECT_EQ(desk.text.OLEDropFiles({u"/home/author/x.htm"}), MainText::Drop::Refused);
   EXPECT_EQ(desk.text.OLEDropFiles({}), MainText::Drop::Refused);
+}
+
+TEST(DroppedSelection, IsMovedOrCopiedInOneStep) {
+  using Drag = MainText::SelectionDrag;
+  struct Row {
+    Position to;
+    Drag drag;
+    const char* after;
+  };
+  for (const Row& row : {Row{5, Drag::Move, "ade⟦bc⟧f"}, Row{0, Drag::Move, "⟦bc⟧adef"},
+                         Row{5, Drag::Copy, "abcde⟦bc⟧f"}, Row{2, Drag::Move, "a⟦bc⟧def"}}) {
+    MainTextDesk desk;
+    desk.Put(u"a⟦bc⟧def");
+    desk.text.DropSelection(row.to, row.drag);
+    EXPECT_EQ(desk.Row(), row.after);
+    desk.text.EM_UNDO();
+    EXPECT_EQ(desk.control.Text(), u"abcdef");
+  }
+}
+
+TEST(DroppedSelection, IsRefusedByAReadOnlyDocument) {
+  MainTextDesk desk;
+  desk.Put(u"a⟦bc⟧def");
+  desk.control.SetLocked(true);
+  desk.text.DropSelection(5, MainText::SelectionDrag::Move);
+  EXPECT_EQ(desk.Row(), "a⟦bc⟧def");
+  EXPECT_THAT(desk.Messages(), ElementsAre("beep", "status: 読み取り専用で開かれています"));
 }
 
 TEST(DroppedAnythingElse, Beeps) {

@@ -186,6 +186,46 @@ TEST(Paste, Of32000BytesIsNotAskedFor) {
   EXPECT_TRUE(desk.boxes.asked.empty());
 }
 
+TEST(PasteAt, GoesInAtThePlaceAsAPasteWould) {
+  struct Row {
+    std::u16string text;
+    std::u16string before;
+    Position at;
+    std::u16string after;
+    std::int16_t level = 1;
+  };
+  for (const Row& row :
+       {Row{u"\tx", u"a⟦b⟧cd", 3, u"abc    x‸d"}, Row{u"\tx", u"ab‸", 0, u"\tx‸ab", 0},
+        Row{u"1\r2\n3\r\n4", u"ab‸", 1, u"a1\n2\n3\n4‸b"}, Row{u"", u"a⟦b⟧c", 0, u"a⟦b⟧c"}}) {
+    MainTextDesk desk;
+    desk.state.tabSpaceCount = row.level;
+    desk.Put(row.before);
+    desk.text.PasteAt(row.at, row.text);
+    EXPECT_EQ(desk.Row(), ToUtf8(row.after));
+    EXPECT_FALSE(HasLoneLineEnd(desk.control.Text()));
+  }
+}
+
+TEST(PasteAt, OfALargeTextIsAskedForAndRefusedLeavesTheCaret) {
+  MainTextDesk desk;
+  desk.Put(u"a⟦b⟧c");
+  desk.text.PasteAt(0, std::u16string(32001, u'x'));
+  EXPECT_EQ(desk.boxes.asked.size(), 1u);
+  EXPECT_EQ(desk.Row(), "a⟦b⟧c");
+  desk.boxes.answers = {MessageAnswer::Yes};
+  desk.text.PasteAt(0, std::u16string(32001, u'x'));
+  EXPECT_EQ(desk.control.Length(), 32004);
+}
+
+TEST(PasteAt, IntoAReadOnlyDocumentBeeps) {
+  MainTextDesk desk;
+  desk.Put(u"a‸b");
+  desk.control.SetLocked(true);
+  desk.text.PasteAt(0, u"x");
+  EXPECT_EQ(desk.Row(), "a‸b");
+  EXPECT_THAT(desk.Messages(), ElementsAre("beep", "status: 読み取り専用で開かれています"));
+}
+
 TEST(CommitInput, GoesInAsOneUndoStep) {
   MainTextDesk desk;
   desk.Put(u"a⟦b⟧c");

@@ -179,6 +179,31 @@ TEST(KeyGate, IsClosedByTheKeysRelease) {
   EXPECT_EQ(desk.text.KeyPress(u'<'), u'<');
 }
 
+// The release may go to a popup or to another window.
+TEST(KeyGate, IsClosedByAKeyThatBringsNoCharacterEvenIfItsReleaseIsLost) {
+  using Press = std::function<void(MainText&)>;
+  const Press presses[] = {
+      [](MainText& text) {
+        if (!text.KeyDown(kKeyHome, 0)) text.WM_KEYDOWN(EditKey::Home, {});
+      },
+      [](MainText& text) {
+        if (!text.KeyDown(kKeyDelete, 0)) text.WM_KEYDOWN(EditKey::Delete, {});
+      },
+      [](MainText& text) { EXPECT_TRUE(text.KeyDown(kKeyTab, kControl)); },
+      [](MainText& text) {
+        if (!text.KeyDown(0, 0)) text.CommitInput(u"𠮷");
+      },
+  };
+  for (const Press& press : presses) {
+    MainTextDesk desk;
+    desk.Put(u"‸");
+    press(desk.text);
+    desk.text.WM_CHAR(u'<', 0);
+    EXPECT_EQ(desk.control.At(desk.control.SelStart() - 1), u'<');
+    EXPECT_THAT(desk.Lines({"preset", "popup"}), IsEmpty());
+  }
+}
+
 TEST(KeyGate, StaysOpenInAReadOnlyDocument) {
   MainTextDesk desk;
   desk.Put(u"  a‸");
@@ -281,6 +306,53 @@ TEST(KeyError, IsToldInABoxAndTheKeyIsSwallowed) {
   desk.tags.failing = false;
   desk.Press(u"b");
   EXPECT_EQ(desk.Row(), "ab‸");
+}
+
+TEST(KeyError, OfAReleaseIsToldToo) {
+  MainTextDesk desk;
+  desk.Put(u"a‸");
+  desk.tags.failingHints = true;
+  desk.text.KeyUp(0, 0);
+  EXPECT_THAT(desk.Messages(), ElementsAre("box: 不明なｴﾗｰが発生しました"));
+}
+
+// A painter that fails, for messages that ask nothing else of their surroundings.
+class FailingPainter : public fakes::MainTextRecorder {
+ public:
+  using MainTextRecorder::MainTextRecorder;
+  void PaintTextDecor(Decor) override {
+    if (failing) throw std::runtime_error("no memory for the picture");
+  }
+  bool failing = false;
+};
+
+TEST(Errors, ThatEscapeAMessageAreToldInABox) {
+  using Send = std::function<void(MainText&)>;
+  const Send messages[] = {
+      [](MainText& text) { text.WM_KEYDOWN(EditKey::Left, {}); },
+      [](MainText& text) { text.WM_PASTE(); },
+      [](MainText& text) { text.PasteAt(1, u"x"); },
+      [](MainText& text) { text.CommitInput(u"x"); },
+      [](MainText& text) { text.DropSelection(3, MainText::SelectionDrag::Move); },
+      [](MainText& text) { text.DropSelection(3, MainText::SelectionDrag::Copy); },
+      [](MainText& text) { text.OLEDropText(u"x"); },
+      [](MainText& text) { text.Edit(0); },
+      [](MainText& text) { text.Edit(5); },
+      [](MainText& text) { text.MenUNDO(0); },
+  };
+  for (const Send& send : messages) {
+    MainTextDesk desk;
+    FailingPainter host(desk.journal);
+    MainText text(desk.control, desk.state, desk.common, host, desk.tags, desk.clipboard, desk.boxes);
+    text.InstallSubclass(1);
+    desk.clipboard.text = u"x";
+    desk.Put(u"a⟦b⟧cd");
+    desk.control.EM_REPLACESEL(true, u"B");
+    desk.Put(u"a⟦b⟧cd");
+    host.failing = true;
+    EXPECT_NO_THROW(send(text));
+    EXPECT_THAT(desk.Messages(), ElementsAre("box: 不明なｴﾗｰが発生しました"));
+  }
 }
 
 TEST(KeyError, OfTheEventAloneAnswersWithNoKey) {

@@ -172,6 +172,15 @@ TEST(DragMode, EndsWithTheButton) {
   EXPECT_THAT(desk.Lines({"drag"}), ElementsAre("drag on", "drag off"));
 }
 
+TEST(DragMode, EndsWithTheSubclass) {
+  MainTextDesk desk;
+  desk.Put(u"a⟦b⟧c");
+  desk.text.WM_LBUTTONDOWN();
+  desk.text.InstallSubclass(0);
+  EXPECT_FALSE(desk.text.DragMode());
+  EXPECT_THAT(desk.Lines({"drag"}), ElementsAre("drag on", "drag off"));
+}
+
 TEST(DragMode, NeverBeginsWhereSwitchedOff) {
   MainTextDesk desk;
   desk.state.dragModeTrue = 0;

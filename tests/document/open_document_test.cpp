@@ -368,5 +368,12 @@ TEST_F(OpenDocument, MiddleDotsThatStandInTheFileAreNoReasonToWarn) {
   EXPECT_EQ(window.messages, std::vector<std::u16string>{u""});
 }
 
+TEST_F(OpenDocument, ReadOnlyAndUnreadableBytesAreToldTogether) {
+  ASSERT_TRUE(document->OpenDocument(MakeFile("a.txt", "a\x81"), ReadOnly::Yes));
+  EXPECT_EQ(ToUtf8(window.messages.back()),
+            "読み取り専用で開きました  ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました");
+  EXPECT_TRUE(control.Locked());
+}
+
 }  // namespace
 }  // namespace kestri

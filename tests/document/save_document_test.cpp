@@ -1,3 +1,6 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include "tests/document/document_fixture.hpp"
 
 namespace kestri {
@@ -285,6 +288,46 @@ TEST_F(SaveDocument, ChangeOfTheSameLengthIsSeenByItsTime) {
   EXPECT_EQ(boxes.asked.size(), 1U);
 }
 
+void SetTime(std::u16string_view path, timespec time) {
+  const timespec times[] = {time, time};
+  ASSERT_EQ(::utimensat(AT_FDCWD, ToUtf8(path).c_str(), times, 0), 0);
+}
+
+TEST_F(SaveDocument, ChangeOfTheSameLengthWithinASecondIsSeen) {
+  const auto path = MakeFile("a.txt", "old\r\n");
+  SetTime(path, {1044072306, 1000});
+  ASSERT_TRUE(Open(path));
+  Type(u"x");
+  ChangeBehindTheBack(path, "new\r\n");
+  SetTime(path, {1044072306, 2000});
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(ToUtf8(OnlyBox().text), ToUtf8(kForeignChange));
+  EXPECT_EQ(Bytes(path), "new\r\n");
+}
+
+TEST_F(SaveDocument, AnotherFileOfTheSameLengthAndTimeIsSeen) {
+  const auto path = MakeFile("a.txt", "old\r\n");
+  SetTime(path, {1044072306, 1000});
+  ASSERT_TRUE(Open(path));
+  Type(u"x");
+  const auto other = MakeFile("other.txt", "new\r\n");
+  SetTime(other, {1044072306, 1000});
+  std::filesystem::rename(ToUtf8(other), ToUtf8(path));
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(ToUtf8(OnlyBox().text), ToUtf8(kForeignChange));
+  EXPECT_EQ(Bytes(path), "new\r\n");
+}
+
+TEST_F(SaveDocument, OwnSavesAreNoForeignChange) {
+  const auto path = OpenAndType("a.txt", "old\r\n", u"x");
+  for (int save = 0; save < 3; ++save) {
+    EXPECT_TRUE(document->OverwriteSave());
+    Type(u"y");
+  }
+  EXPECT_TRUE(boxes.asked.empty());
+  EXPECT_EQ(Bytes(path), "xyyold\r\n");
+}
+
 TEST_F(SaveDocument, UnreadableBytesAreOverwrittenOnlyAfterYes) {
   const auto path = OpenAndType("a.txt", "a\x81", u"x");
   EXPECT_FALSE(document->OverwriteSave());
@@ -346,6 +389,41 @@ TEST_F(SaveDocument, LossIsAskedOncePerDocument) {
   EXPECT_TRUE(document->OverwriteSave());
   EXPECT_EQ(boxes.asked.size(), 1U);
   OpenAndType("b.txt", "", u"é");
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(boxes.asked.size(), 2U);
+}
+
+TEST_F(SaveDocument, CharactersTypedAfterAYesAreAskedAboutAgain) {
+  const auto path = OpenAndType("a.txt", "", u"é");
+  boxes.answers.push_back(MessageAnswer::Yes);
+  ASSERT_TRUE(document->OverwriteSave());
+  const auto before = Bytes(path);
+  Type(u"\r\né😀");
+  EXPECT_FALSE(document->OverwriteSave());
+  ASSERT_EQ(boxes.asked.size(), 2U);
+  EXPECT_NE(ToUtf8(boxes.asked.back().text).find("(2行目 「😀」)"), std::string::npos);
+  EXPECT_EQ(Bytes(path), before);
+  EXPECT_EQ(state.modified, -1);
+  boxes.answers.push_back(MessageAnswer::Yes);
+  EXPECT_TRUE(document->OverwriteSave());
+  Type(u"é😀");
+  EXPECT_TRUE(document->OverwriteSave());
+  EXPECT_EQ(boxes.asked.size(), 3U);
+}
+
+TEST_F(SaveDocument, AYesForOneFileDoesNotCountForAnother) {
+  OpenAndType("a.txt", "", u"é");
+  boxes.answers.push_back(MessageAnswer::Yes);
+  ASSERT_TRUE(document->OverwriteSave());
+  dialogs.answers.push_back(FileDialogAnswer{Work("b.txt"), 1, false});
+  EXPECT_FALSE(document->SaveAsDialog(u""));
+  EXPECT_EQ(boxes.asked.size(), 2U);
+  EXPECT_FALSE(Exists(Work("b.txt")));
+}
+
+TEST_F(SaveDocument, AfterANoTheSameCharactersAreAskedAboutAgain) {
+  OpenAndType("a.txt", "", u"é");
+  EXPECT_FALSE(document->OverwriteSave());
   EXPECT_FALSE(document->OverwriteSave());
   EXPECT_EQ(boxes.asked.size(), 2U);
 }

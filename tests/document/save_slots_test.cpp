@@ -88,6 +88,42 @@ TEST_F(Slots, FolderThatCannotBeMadeIsAnError) {
   EXPECT_EQ(Told(), "Error - Slot(4).Save");
 }
 
+TEST_F(Slots, FolderThatVanishedIsAnErrorForALoadAndMadeAgainByASave) {
+  control.SetText(u"kept");
+  ASSERT_TRUE(slots.SaveSlot(4));
+  std::filesystem::remove_all(ToUtf8(Whole("program/SlotSave")));
+  EXPECT_FALSE(slots.LoadSlot(4));
+  EXPECT_EQ(Told(), "Error - Slot(4).Load");
+  EXPECT_EQ(control.Text(), u"kept");
+  EXPECT_TRUE(slots.SaveSlot(4));
+  EXPECT_EQ(Bytes(SlotFile("index.html.s04")), "kept\r\n");
+}
+
+TEST_F(Slots, SlotThatIsReadOnlyKeepsItsSnapshot) {
+  control.SetText(u"earlier");
+  ASSERT_TRUE(slots.SaveSlot(4));
+  MakeReadOnly(SlotFile("index.html.s04"));
+  control.SetText(u"later");
+  EXPECT_FALSE(slots.SaveSlot(4));
+  EXPECT_EQ(Told(), "Error - Slot(4).Save");
+  EXPECT_EQ(Bytes(SlotFile("index.html.s04")), "earlier\r\n");
+  EXPECT_EQ(control.Text(), u"later");
+}
+
+TEST_F(Slots, SlotThatIsNoTextIsAnErrorAndTheTextStays) {
+  std::filesystem::create_directories(ToUtf8(Whole("program/SlotSave")));
+  std::ofstream(ToUtf8(SlotFile("index.html.s04"))) << "a\x1A"
+                                                    << "b";
+  std::filesystem::create_directory(ToUtf8(SlotFile("index.html.s05")));
+  control.SetText(u"kept");
+  EXPECT_FALSE(slots.LoadSlot(4));
+  EXPECT_FALSE(slots.LoadSlot(5));
+  EXPECT_EQ(Told(), "Error - Slot(5).Load");
+  EXPECT_FALSE(slots.SaveSlot(5));
+  EXPECT_EQ(Told(), "Error - Slot(5).Save");
+  EXPECT_EQ(control.Text(), u"kept");
+}
+
 TEST_F(Slots, FailedWriteKeepsTheEarlierSnapshot) {
   control.SetText(u"earlier");
   slots.SaveSlot(4);

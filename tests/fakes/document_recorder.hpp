@@ -21,6 +21,7 @@ class DocumentRecorder : public DocumentWindow {
   void SetScrollPosition(ScrollPosition position) override { scroll = position; }
   void RefreshTagView() override { ++tagViewRefreshes; }
   void RefreshStatus() override { ++statusRefreshes; }
+  void FocusText() override { ++textFocuses; }
   void DocumentChanged() override { ++documentChanges; }
 
   std::vector<std::u16string> messages;
@@ -31,6 +32,7 @@ class DocumentRecorder : public DocumentWindow {
   ScrollPosition scroll;
   int tagViewRefreshes = 0;
   int statusRefreshes = 0;
+  int textFocuses = 0;
   int documentChanges = 0;
 };
 

@@ -60,7 +60,10 @@ class TagRecorder : public TagAssistance {
   void UnloadPopups() override { journal_.push_back("unload popups"); }
   bool HintVisible() override { return hintVisible; }
   void seTagHide() override { journal_.push_back("hide hint"); }
-  void seTagHint() override { journal_.push_back("check hint"); }
+  void seTagHint() override {
+    if (failingHints) throw std::runtime_error("dictionary went away");
+    journal_.push_back("check hint");
+  }
   bool seTagHintPriSet() override {
     journal_.push_back("set hint");
     return true;
@@ -72,6 +75,7 @@ class TagRecorder : public TagAssistance {
   Compare askedCompare = Compare::Text;
   bool hintVisible = false;
   bool failing = false;
+  bool failingHints = false;
 
  private:
   Journal& journal_;

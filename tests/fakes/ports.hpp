@@ -133,6 +133,12 @@ class FakeShell : public Shell {
     started.emplace_back(program, argument);
     return true;
   }
+  bool StartCommandLine(std::u16string_view commandLine) override {
+    commandLines.emplace_back(commandLine);
+    return startsCommandLines;
+  }
+  std::vector<std::u16string> commandLines;
+  bool startsCommandLines = true;
   std::vector<std::pair<std::u16string, std::u16string>> opened;
   std::vector<std::u16string> explored;
   std::vector<std::u16string> properties;

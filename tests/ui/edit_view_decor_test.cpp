@@ -7,6 +7,7 @@
 
 #include "tests/fakes/screens.hpp"
 #include "tests/ui/edit_view_desk.hpp"
+#include "ui/line_rows.hpp"
 
 namespace kestri {
 namespace {
@@ -211,6 +212,58 @@ TEST(EditViewDecor, GuideLinesStayWhereTheyAreWhenTheFocusIsElsewhere) {
   EXPECT_EQ(desk.view.Guides(), before);
 }
 
+TEST(EditViewDecor, GuideLinesHideWithASelectionMadeFromElsewhere) {
+  EditViewDesk desk;
+  desk.view.SetGuideLines(true);
+  desk.Put(u"abc\nde‸f");
+  desk.view.clearFocus();
+  desk.Control().EM_SETSEL(0, 2);
+  desk.view.Flush();
+  EXPECT_FALSE(desk.view.Guides().visible);
+}
+
+TEST(EditViewDecor, ThePositionTextGoesWithTheLineNumbers) {
+  EditViewDesk desk;
+  desk.Put(u"a\nb‸");
+  desk.view.SetLineNumbersShown(false);
+  EXPECT_FALSE(desk.view.LineNumbers().isVisible());
+  EXPECT_FALSE(desk.view.PositionDisplay().isVisible());
+  EXPECT_EQ(desk.view.viewport()->geometry().topLeft(), desk.view.contentsRect().topLeft());
+  desk.Press(u"{Up}");
+  desk.view.SetLineNumbersShown(true);
+  desk.Settle();
+  EXPECT_TRUE(desk.view.LineNumbers().isVisible());
+  EXPECT_TRUE(desk.view.PositionDisplay().isVisible());
+  EXPECT_EQ(desk.view.PositionDisplay().Text(), QStringLiteral(" 1 / 2"));
+  EXPECT_EQ(desk.view.LineNumbers().State().caretLine, 0);
+}
+
+TEST(EditViewDecor, WithoutTheSubclassTheTextIsBare) {
+  EditViewDesk desk;
+  desk.view.SetGuideLines(true);
+  desk.Put(u"abc\nde‸f");
+  const QImage dressed = desk.view.grab().toImage();
+  desk.view.InstallSubclass(0);
+  desk.Settle();
+  EXPECT_FALSE(desk.text.Subclassed());
+  EXPECT_EQ(desk.text.ExpandTabs(u"\t"), u"\t");
+  EXPECT_FALSE(desk.view.LineNumbers().isVisible());
+  EXPECT_FALSE(desk.view.PositionDisplay().isVisible());
+  EXPECT_FALSE(desk.view.LineEndMarksShown());
+  EXPECT_FALSE(desk.view.GuideLinesShown());
+  EXPECT_EQ(desk.view.viewport()->x(), desk.view.contentsRect().x());
+  const QImage bare = desk.view.viewport()->grab().toImage();
+  EXPECT_FALSE(HasColor(bare, kLineEndColor));
+  desk.view.SetGuideLines(true);
+  desk.Settle();
+  EXPECT_TRUE(desk.view.viewport()->grab().toImage() == bare)
+      << "guide lines stay hidden without the subclass";
+  desk.view.InstallSubclass(1);
+  desk.Settle();
+  EXPECT_EQ(desk.text.ExpandTabs(u"\t"), u"    ");
+  EXPECT_TRUE(desk.view.grab().toImage() == dressed);
+}
+
 TEST(EditViewDecor, LineEndMarksAreOffInAProportionalFont) {
   EditViewDesk desk;
   EXPECT_TRUE(desk.view.LineEndMarksShown());
@@ -332,6 +385,85 @@ TEST(EditViewDecor, ANewTextShowsFromItsTop) {
   desk.PutText(text + u"more");
   EXPECT_EQ(desk.view.ScrollPosition().firstLine, 0);
   EXPECT_EQ(desk.view.ScrollPosition().x, 0);
+}
+
+TEST(EditViewDecor, AShortTextAfterALongOneLeavesNothingToScroll) {
+  EditViewDesk desk;
+  const QScrollBar& across = *desk.view.horizontalScrollBar();
+  const QScrollBar& down = *desk.view.verticalScrollBar();
+  std::u16string text;
+  for (int i = 0; i < 300; ++i) text += std::u16string(200, u'x') + u"\r\n";
+  desk.PutText(text);
+  desk.Settle();
+  EXPECT_GT(down.maximum(), 200);
+  EXPECT_GT(across.maximum(), 400);
+  EXPECT_TRUE(across.isVisible());
+  desk.view.SetScrollPosition({200, 400});
+  desk.PutText(u"short");
+  desk.Settle();
+  EXPECT_EQ(down.maximum(), 0);
+  EXPECT_EQ(across.maximum(), 0);
+  EXPECT_TRUE(down.isVisible());
+  EXPECT_FALSE(across.isVisible());
+  EXPECT_EQ(desk.view.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+  EXPECT_EQ(desk.view.horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+}
+
+TEST(EditViewDecor, TheCaretShowsAgainWhenItIsScrolledBackIntoSight) {
+  EditViewDesk desk;
+  std::u16string text;
+  for (int i = 0; i < 300; ++i) text += u"\r\n";
+  desk.PutText(text);
+  desk.Press(u"{Down*3}");
+  QScrollBar& bar = *desk.view.verticalScrollBar();
+  const auto shown = [&] {
+    const QPoint middle = desk.view.CaretRect().center();
+    return desk.view.viewport()->grab().toImage().pixelColor(middle) ==
+           desk.view.palette().color(QPalette::Text);
+  };
+  ASSERT_TRUE(shown());
+  for (const bool flushed : {false, true}) {
+    bar.setValue(250);
+    if (flushed) {
+      desk.view.SetLineEndMarks(false, 0);
+      desk.view.SetGuideLines(false);
+      desk.Settle();
+    }
+    bar.setValue(8);
+    bar.setValue(2);
+    EXPECT_TRUE(shown()) << flushed;
+  }
+}
+
+// ---- rows of very many lines
+
+TEST(LineRows, FarLinesStayOnTheirSideWithoutOverflow) {
+  constexpr std::int32_t kMany = 1'000'000'000;
+  EXPECT_EQ(RowTopOf(7, 5, 22), 44);
+  EXPECT_EQ(RowTopOf(5, 7, 22), -44);
+  EXPECT_EQ(RowTopOf(kMany + 2, kMany, 22), 44);
+  EXPECT_EQ(RowTopOf(kMany, 0, 22), kFarAway);
+  EXPECT_EQ(RowTopOf(0, kMany, 22), -kFarAway);
+  EXPECT_EQ(RowTopOf(INT32_MAX, 0, 200), kFarAway);
+  EXPECT_EQ(HeightOfRows(-kMany, 22), -kFarAway);
+  EXPECT_EQ(NearPixels(2e10), kFarAway);
+  EXPECT_EQ(NearPixels(-2e10), -kFarAway);
+}
+
+TEST(Gutter, ShowsABillionLines) {
+  constexpr std::int32_t kMany = 1'000'000'000;
+  QFont font(QStringLiteral("IPAGothic"));
+  font.setPixelSize(18);
+  Gutter gutter(nullptr);
+  gutter.SetStyle(MakeTextStyle(font));
+  gutter.resize(gutter.WidthFor(kMany), 200);
+  gutter.show();
+  gutter.Show({.firstLine = 0, .lineCount = kMany, .caretLine = 0});
+  const QImage top = gutter.grab().toImage();
+  PaintWatch watch(&gutter);
+  gutter.Show({.firstLine = kMany - 3, .lineCount = kMany, .caretLine = kMany - 1});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return watch.painted.contains(gutter.rect()); }, 2000));
+  EXPECT_NE(gutter.grab().toImage(), top);
 }
 
 // ---- colours

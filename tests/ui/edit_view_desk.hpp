@@ -21,12 +21,14 @@ class ViewHost : public MainTextRecorder {
     if (view) view->SetTextHidden(hidden);
   }
   void PaintTextDecor(Decor rows) override {
+    if (failing) throw std::runtime_error("no memory for the picture");
     if (view) view->PaintTextDecor(rows);
   }
   void ResetCaretMemo() override {
     if (view) view->ResetCaretMemo();
   }
   EditView* view = nullptr;
+  bool failing = false;
 };
 
 class EditViewDesk {

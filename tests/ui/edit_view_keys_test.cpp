@@ -155,6 +155,26 @@ TEST(EditViewKeys, ScrollWithTheCaretAtEveryEdge) {
   EXPECT_EQ(desk.view.FirstVisibleLine(), 0);
 }
 
+// Takes key releases away, as a popup over the text does.
+class ReleaseThief : public QObject {
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::KeyRelease; }
+};
+
+TEST(EditViewKeys, ALostReleaseOpensNoGateForTheProgramsCharacters) {
+  for (const char16_t* script : {u"{Left}", u"{Home}", u"{Delete}", u"{PageDown}", u"{Ctrl+Tab}",
+                                 u"{Ctrl+Shift+Tab}", u"{Shift+Right}"}) {
+    EditViewDesk desk;
+    desk.Put(u"‸");
+    ReleaseThief thief;
+    desk.view.installEventFilter(&thief);
+    desk.Press(script);
+    desk.text.WM_CHAR(u'<', 0);
+    EXPECT_EQ(desk.Row(), "<‸") << ToUtf8(script);
+    EXPECT_TRUE(desk.desk.Lines({"preset", "popup"}).empty()) << ToUtf8(script);
+  }
+}
+
 TEST(EditViewKeys, KeyUpReachesTheRules) {
   EditViewDesk desk;
   desk.desk.state.htmlNAVkeyB_AUTO = 1;

@@ -47,6 +47,16 @@ TEST(EditViewLook, APageOnALightDesktop) {
   EXPECT_EQ(InkedRows(desk, Picture(desk, "page"), desk.view.palette().color(QPalette::Base)), kPageRows);
 }
 
+TEST(EditViewLook, ABarePageWithoutTheSubclass) {
+  EditViewDesk desk;
+  desk.view.SetGuideLines(true);
+  desk.Put(kPage);
+  desk.view.InstallSubclass(0);
+  const QImage picture = Picture(desk, "bare");
+  EXPECT_EQ(InkedRows(desk, picture, desk.view.palette().color(QPalette::Base)), kPageRows);
+  EXPECT_GT(picture.width(), desk.view.width() - 30) << "the text begins at the window's left edge";
+}
+
 TEST(EditViewLook, GuideLinesAndMarksOfBlanks) {
   EditViewDesk desk;
   desk.Put(kPage);
@@ -69,8 +79,7 @@ TEST(EditViewLook, ASelectionTakesTheLineEndsWithIt) {
   const QRect lineEnd = desk.view.RectOf(desk.Control().LineEnd(7));
   const QColor selected = desk.view.palette().color(QPalette::Highlight);
   EXPECT_EQ(picture.pixelColor(lineEnd.left() + 1, lineEnd.top() + 1), selected);
-  EXPECT_EQ(picture.pixelColor(300, 350), QColor(0, 0, 255))
-      << "below the selection";
+  EXPECT_EQ(picture.pixelColor(300, 350), QColor(0, 0, 255)) << "below the selection";
 }
 
 TEST(EditViewLook, ThePreeditIsUnderlinedInItsLine) {

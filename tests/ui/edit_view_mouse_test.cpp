@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include "tests/ui/edit_view_desk.hpp"
+#include "ui/dropped_data.hpp"
 
 namespace kestri {
 namespace {
@@ -63,6 +64,16 @@ TEST(EditViewMouse, AnyButtonHidesTheHint) {
     QTest::mousePress(desk.view.viewport(), button, {}, QPoint(10, 10));
     EXPECT_TRUE(desk.Noted("hide hint"));
   }
+}
+
+TEST(EditViewMouse, TheSecondPressOfADoubleClickHidesTheHintToo) {
+  EditViewDesk desk;
+  desk.Put(u"abc");
+  QTest::mousePress(desk.view.viewport(), Qt::LeftButton, {}, QPoint(10, 10));
+  QTest::mouseRelease(desk.view.viewport(), Qt::LeftButton, {}, QPoint(10, 10));
+  desk.desk.journal.clear();
+  QTest::mouseDClick(desk.view.viewport(), Qt::LeftButton, {}, QPoint(10, 10));
+  EXPECT_TRUE(desk.Noted("hide hint"));
 }
 
 TEST(EditViewMouse, DraggingSelects) {
@@ -227,6 +238,56 @@ TEST(EditViewDrop, FilesAreOpenedEvenWhenTheirPathsAreOfferedAsText) {
   EXPECT_TRUE(desk.Noted("open anew: /home/author/頁.htm"));
 }
 
+TEST(EditViewDrop, TextGoesBeforeFiles) {
+  EditViewDesk desk;
+  desk.Put(u"abc‸");
+  desk.desk.files.contents[u"/home/author/picture.png"] = "x";
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QStringLiteral("/home/author/picture.png"))});
+  data.setText(QStringLiteral("the picture's words"));
+  Drop(desk, data, PointAt(desk, 0));
+  EXPECT_EQ(desk.Row(), "the picture's words‸abc");
+  EXPECT_TRUE(desk.desk.Lines({"open"}).empty());
+}
+
+TEST(EditViewDrop, ALockedTextKeepsItsSelection) {
+  EditViewDesk desk;
+  desk.Put(u"a⟦b⟧cdef");
+  desk.Control().SetLocked(true);
+  QMimeData data;
+  data.setText("x");
+  Drop(desk, data, PointAt(desk, 4));
+  EXPECT_EQ(desk.Row(), "a⟦b⟧cdef");
+}
+
+TEST(DroppedData, TextThatOnlyNamesItsFilesIsFiles) {
+  const QList<QUrl> one = {QUrl::fromLocalFile(QStringLiteral("/home/author/a b.htm"))};
+  const QList<QUrl> two = one + QList<QUrl>{QUrl::fromLocalFile(QStringLiteral("/home/author/頁.htm"))};
+  struct Row {
+    QList<QUrl> urls;
+    QString text;
+    DroppedKind kind;
+  };
+  const Row rows[] = {
+      {one, QStringLiteral("/home/author/a b.htm"), DroppedKind::Files},
+      {one, QStringLiteral("file:///home/author/a%20b.htm\r\n"), DroppedKind::Files},
+      {two, QStringLiteral("/home/author/a b.htm\n/home/author/頁.htm\n"), DroppedKind::Files},
+      {two, QStringLiteral("file:///home/author/a%20b.htm\nfile:///home/author/頁.htm"), DroppedKind::Files},
+      {two, QString(), DroppedKind::Files},
+      {two, QStringLiteral("/home/author/a b.htm\nand a note"), DroppedKind::Text},
+      {one, QStringLiteral("a b.htm"), DroppedKind::Text},
+      {{QUrl("https://example.org/")}, QStringLiteral("https://example.org/"), DroppedKind::Text},
+      {{}, QStringLiteral("/home/author/a b.htm"), DroppedKind::Text},
+  };
+  for (const Row& row : rows) {
+    QMimeData data;
+    if (!row.urls.isEmpty()) data.setUrls(row.urls);
+    if (!row.text.isNull()) data.setText(row.text);
+    EXPECT_EQ(KindOf(data), row.kind) << row.text.toStdString();
+  }
+  EXPECT_EQ(KindOf(QMimeData()), DroppedKind::Other);
+}
+
 TEST(EditViewDrop, AnAddressOfTheWebIsText) {
   EditViewDesk desk;
   desk.Put(u"‸");
@@ -268,6 +329,14 @@ TEST(EditViewDrop, TheSelectionIsMovedAsOneStep) {
   }
 }
 
+TEST(EditViewDrop, AnErrorInAMoveIsToldInABox) {
+  EditViewDesk desk;
+  desk.Put(u"a⟦bc⟧def");
+  desk.host.failing = true;
+  EXPECT_NO_THROW(desk.view.MoveOrCopySelection(5, Qt::MoveAction));
+  EXPECT_TRUE(desk.Noted("box: 不明なｴﾗｰが発生しました"));
+}
+
 // ---- menu
 
 TEST(EditViewMenu, TheProgramsOwnMenuComesFirst) {
@@ -300,6 +369,22 @@ TEST(EditViewMenu, WithoutItTheStandardMenuActsOnTheText) {
   cut->trigger();
   EXPECT_EQ(desk.Row(), "a‸");
   menu->close();
+}
+
+TEST(EditViewMenu, TheStandardMenuCopiesFromALockedText) {
+  EditViewDesk desk;
+  desk.desk.state.popUpMen = 0;
+  desk.Put(u"a⟦bc⟧");
+  desk.Control().SetLocked(true);
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+  QApplication::sendEvent(desk.view.viewport(), &event);
+  const QList<QAction*> actions = desk.view.findChild<QMenu*>()->actions();
+  const auto copy = std::find_if(actions.begin(), actions.end(), [](const QAction* action) {
+    return action->text() == QStringLiteral("ｺﾋﾟｰ(&C)");
+  });
+  ASSERT_NE(copy, actions.end());
+  (*copy)->trigger();
+  EXPECT_EQ(desk.desk.clipboard.text, u"bc");
 }
 
 }  // namespace
