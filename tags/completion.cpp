@@ -19,6 +19,10 @@ std::int32_t Setting(const ClassCommon& common, std::u16string_view key, std::u1
   return ToLong(common.GetINI(common.ExeName(), u"Setting", key, defaultValue)).value_or(0);
 }
 
+constexpr bool TakesPartInNarrowing(char16_t character) {
+  return character >= 32 && character <= 126;
+}
+
 // Zero-based position behind the nearest break character left of the caret: the number of that character,
 // one-based.
 Position WordStart(const EditControl& control, std::u16string_view breaks) {
@@ -37,6 +41,8 @@ void InToTAG::Beep() const {
 
 void InToTAG::Load() {
   around_.host.SetStatusPane(kMessagePane, kUnpacking);
+  // The files are read before the next event; a slow disk must not look like a lost key.
+  if (around_.paintStatus) around_.paintStatus();
   around_.view.SetListVisible(false);
   rows_ = BuildCandidates(Dictionaries(around_.common), ReadCandidateSources(around_.common),
                           around_.screenFonts);
@@ -174,8 +180,17 @@ void InToTAG::KeyPress(char16_t keyAscii) {
       Accept();
       return;
     default:
-      if (keyAscii >= 32 && keyAscii <= 126) TypeIntoText(keyAscii);
+      if (TakesPartInNarrowing(keyAscii)) TypeIntoText(keyAscii);
   }
+}
+
+void InToTAG::CommitText(std::u16string_view text) {
+  const auto other = std::ranges::find_if_not(text, &TakesPartInNarrowing);
+  const auto typed = static_cast<std::size_t>(other - text.begin());
+  for (const char16_t character : text.substr(0, typed)) TypeIntoText(character);
+  if (typed == text.size()) return;
+  HidePopup(PopupFocus::ToText);
+  around_.text.CommitInput(text.substr(typed));
 }
 
 void InToTAG::Backspace() {

@@ -29,8 +29,9 @@ class InToTAG {
     CandidateView& view;
     CaretPlace& place;
     TagHints& hints;
-    std::function<void()> tagAnalyse;  // opens the tag analysis; may be empty
-    ScreenFonts screenFonts;           // may be empty
+    std::function<void()> tagAnalyse;        // opens the tag analysis; may be empty
+    ScreenFonts screenFonts;                 // may be empty
+    std::function<void()> paintStatus = {};  // paints the status panes at once; may be empty
   };
 
   explicit InToTAG(Surroundings surroundings);
@@ -53,6 +54,9 @@ class InToTAG {
 
   // Events of the popup while it is visible.
   void KeyPress(char16_t keyAscii);
+  // Text that comes in one piece, from a key or an input method. What the list can be narrowed by counts as
+  // typed; the first other character closes the popup, and the text from there on stays in the document.
+  void CommitText(std::u16string_view text);
   void KeyDown(ListKey key);
   void ItemClick(int row);
   void DoubleClick(int row);

@@ -22,11 +22,6 @@ Band TakenByLine(const CaretSurroundings& around, int twipsPerPixel) {
   return band;
 }
 
-int MoveBack(int position, int size, int begin, int end) {
-  if (position + size > end) position -= size;
-  return std::max(position, begin);
-}
-
 PopupPlacement Lowered(PixelRect window, const Band& taken, const PixelRect& screen) {
   const int roomBelow = screen.Bottom() - taken.below;
   const int roomAbove = taken.above - screen.top;
@@ -37,12 +32,6 @@ PopupPlacement Lowered(PixelRect window, const Band& taken, const PixelRect& scr
 }
 
 }  // namespace
-
-PixelRect MoveEx(PixelRect window, const PixelRect& screen) {
-  window.left = MoveBack(window.left, window.width, screen.left, screen.Right());
-  window.top = MoveBack(window.top, window.height, screen.top, screen.Bottom());
-  return window;
-}
 
 PopupPlacement PlaceAtCaret(const CaretSurroundings& around, const PopupRequest& request) {
   const Band taken = TakenByLine(around, request.twipsPerPixel);

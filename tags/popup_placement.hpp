@@ -1,26 +1,9 @@
 // Where a tool window stands when it opens at the caret. Pixels of the screen unless twips are named.
 #pragma once
 
+#include "shell/common/pixel_rect.hpp"
+
 namespace kestri {
-
-struct PixelSize {
-  int width = 0;
-  int height = 0;
-
-  bool operator==(const PixelSize&) const = default;
-};
-
-struct PixelRect {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-
-  int Right() const { return left + width; }
-  int Bottom() const { return top + height; }
-  bool IsEmpty() const { return width <= 0 || height <= 0; }
-  bool operator==(const PixelRect&) const = default;
-};
 
 inline constexpr int kPopupXOffset = 310;  // twips: the list's text column over the typed word
 
@@ -51,9 +34,5 @@ struct PopupPlacement {
 // Where neither side has room it takes the larger one and is made lower, so that the line being typed stays
 // in sight.
 PopupPlacement PlaceAtCaret(const CaretSurroundings& around, const PopupRequest& request);
-
-// MoveEx: what stands out to the left or top moves to the edge; what passes the right or bottom edge moves
-// back by its own size, at least to the edge.
-PixelRect MoveEx(PixelRect window, const PixelRect& screen);
 
 }  // namespace kestri

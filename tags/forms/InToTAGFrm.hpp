@@ -30,7 +30,8 @@ class InToTAGFrm : public QWidget, public CandidateView {
   // Key press, release or shortcut override of the text. True: consumed. Commands with Ctrl, Alt or a
   // function key close the popup and stay with the text.
   bool HandleKey(QKeyEvent* event);
-  // Committed text counts as typed; a composition closes the popup and stays with the text.
+  // Committed text goes to the popup's logic; a composition and a correction of what stands in the text close
+  // the popup and stay with the text.
   bool HandleInputMethod(QInputMethodEvent* event);
 
   // CandidateView.

@@ -101,19 +101,20 @@ bool InToTAGFrm::PressKey(const QKeyEvent& event) {
     logic_->KeyDown(*listKey);
   } else if (const auto editingKey = EditingKeyOf(event.key())) {
     logic_->KeyPress(*editingKey);
-  } else if (event.key() != Qt::Key_Delete) {
-    for (const char16_t unit : FromQt(event.text())) logic_->KeyPress(unit);
+  } else if (!event.text().isEmpty() && event.text()[0].category() != QChar::Other_Control) {
+    logic_->CommitText(FromQt(event.text()));
   }
   return true;
 }
 
 bool InToTAGFrm::HandleInputMethod(QInputMethodEvent* event) {
   if (!shown_ || logic_ == nullptr) return false;
-  if (!event->preeditString().isEmpty()) {
+  if (!event->preeditString().isEmpty() || event->replacementLength() > 0) {
     Deactivate();
     return false;
   }
-  for (const char16_t unit : FromQt(event->commitString())) logic_->KeyPress(unit);
+  if (event->commitString().isEmpty()) return false;
+  logic_->CommitText(FromQt(event->commitString()));
   return true;
 }
 

@@ -12,6 +12,10 @@ namespace {
 constexpr int kMargin = 4;  // logical pixels, around icon and text
 constexpr double kGhostedOpacity = 0.35;
 
+int MarkWidth(const QFontMetrics& metrics) {
+  return metrics.horizontalAdvance(QChar(u'*'));
+}
+
 }  // namespace
 
 CandidateDelegate::CandidateDelegate(const CandidateModel& model, QObject* parent)
@@ -43,7 +47,9 @@ void CandidateDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
   if (selected) color = option.palette.color(QPalette::Active, QPalette::HighlightedText);
   painter->setPen(color);
   painter->setFont(option.font);
-  const QRect place = option.rect.adjusted(kCandidateIconSize + 2 * kMargin + 2, 0, -kMargin, 0);
+  QRect place = option.rect.adjusted(kCandidateIconSize + 2 * kMargin + 2, 0, -kMargin, 0);
+  painter->drawText(place, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, model_.Mark(index.row()));
+  place.setRight(place.right() - MarkWidth(option.fontMetrics) - kMargin);
   const QString text = option.fontMetrics.elidedText(ToQt(row.text), Qt::ElideRight, place.width());
   painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
   painter->restore();

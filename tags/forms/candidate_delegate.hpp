@@ -1,4 +1,5 @@
-// One row of the candidate list: icon and text in the row's colour, ghosted for other modes.
+// One row of the candidate list: icon, text in the row's colour and the mark of the mode; ghosted for other
+// modes.
 #pragma once
 
 #include <QStyledItemDelegate>

@@ -24,19 +24,24 @@ void CandidateModel::SetRows(const std::vector<CandidateRow>& rows) {
 void CandidateModel::SetMode(std::int32_t mode) {
   mode_ = mode;
   const int rows = rowCount();
-  if (rows > 0) Q_EMIT dataChanged(index(0), index(rows - 1), {Qt::ForegroundRole});
+  if (rows > 0) Q_EMIT dataChanged(index(0), index(rows - 1), {Qt::ForegroundRole, Qt::AccessibleTextRole});
 }
 
 int CandidateModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() || rows_ == nullptr ? 0 : static_cast<int>(rows_->size());
 }
 
+QString CandidateModel::Mark(int row) const {
+  return Ghosted(row) ? QString() : QStringLiteral("*");
+}
+
 QVariant CandidateModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::AccessibleTextRole:
       return ToQt(Row(index.row()).text);
+    case Qt::AccessibleTextRole:
+      return QString(ToQt(Row(index.row()).text) + u' ' + Mark(index.row())).trimmed();
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
       return ToQt(Row(index.row()).toolTipText);

@@ -18,6 +18,7 @@ class CandidateModel : public QAbstractListModel {
   void SetMode(std::int32_t mode);
   const CandidateRow& Row(int row) const { return (*rows_)[static_cast<std::size_t>(row)]; }
   bool Ghosted(int row) const { return Row(row).tag != mode_; }
+  QString Mark(int row) const;  // "*" for rows of the mode, empty for others
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

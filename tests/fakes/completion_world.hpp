@@ -212,10 +212,7 @@ class CompletionKeys : public KeyTarget {
   void Press(const Key& key) override {
     if (PressCommand(key)) return;
     if (!world_.view.visible) return text_.Press(key);
-    if (key.name == u"ime") {
-      for (const char16_t unit : key.text) world_.popup.KeyPress(unit);
-      return;
-    }
+    if (key.name == u"ime") return world_.popup.CommitText(key.text);
     if (key.control) {
       world_.popup.Deactivate();
       return text_.Press(key);

@@ -45,6 +45,29 @@ TEST_F(CompletionTest, LoadsAtItsFirstUseWithStatusMessages) {
   EXPECT_EQ(view.rows, popup.Rows());
 }
 
+TEST_F(CompletionTest, TheLoadTextIsPaintedOnceBeforeTheFilesAreRead) {
+  std::vector<std::u16string> painted;
+  InToTAG slow{{.text = world.text,
+                .state = world.state,
+                .common = world.common,
+                .host = world.host,
+                .view = world.view,
+                .place = world.place,
+                .hints = world.hints,
+                .tagAnalyse = {},
+                .screenFonts = {},
+                .paintStatus = [&] {
+                  EXPECT_TRUE(slow.Rows().empty()) << "nothing is read yet";
+                  painted.push_back(world.host.panes.back());
+                }}};
+  slow.Preset(kModeTag);
+  slow.Preset(kModeAttribute);
+  EXPECT_THAT(painted, ElementsAre(u"1:ﾃﾞｰﾀ展開中...  しばらくお待ちください..."));
+  slow.Unload();
+  slow.Preset(kModeTag);
+  EXPECT_EQ(painted.size(), 2u) << "each load says so";
+}
+
 TEST_F(CompletionTest, LoadsOnlyOnce) {
   popup.Preset(kModeTag);
   const int reads = world.files.reads;
@@ -351,6 +374,44 @@ TEST_F(CompletionTest, CharactersOutsideAsciiAreSwallowed) {
     EXPECT_EQ(popup.Typed(), u"a");
     popup.HidePopup(PopupFocus::Stay);
   }
+}
+
+TEST_F(CompletionTest, CommittedFullWidthTextClosesThePopupAndStaysInTheText) {
+  world.SetText(u"‸");
+  world.Type(u"<a");
+  popup.CommitText(u"あ𠮷");
+  EXPECT_FALSE(view.visible);
+  EXPECT_EQ(world.Shown(), u"<aあ𠮷‸");
+  EXPECT_EQ(popup.Typed(), u"a");
+  world.control.EM_UNDO();
+  EXPECT_EQ(world.control.Text(), u"<a") << "one commit, one step";
+}
+
+TEST_F(CompletionTest, CommittedPlainTextCountsAsTyped) {
+  world.SetText(u"‸");
+  world.Type(u"<");
+  popup.CommitText(u"abb");
+  EXPECT_TRUE(view.visible);
+  EXPECT_EQ(popup.Typed(), u"abb");
+  EXPECT_EQ(world.SelectedText(), u"ABBR");
+}
+
+TEST_F(CompletionTest, EachPartOfACommitGoesItsWay) {
+  world.SetText(u"‸");
+  world.Type(u"<");
+  popup.CommitText(u"pｱ<");
+  EXPECT_FALSE(view.visible);
+  EXPECT_EQ(world.Shown(), u"<pｱ<‸");
+  EXPECT_EQ(view.shows, 1) << "a sign inside a commit opens nothing";
+}
+
+TEST_F(CompletionTest, ALockedTextTakesNoCommit) {
+  world.SetText(u"a‸");
+  popup.Preset(kModeTag);
+  popup.ShowPopup();
+  world.control.SetLocked(true);
+  popup.CommitText(u"bあ");
+  EXPECT_EQ(world.Shown(), u"a‸");
 }
 
 TEST_F(CompletionTest, EveryPrintableAsciiKeyReachesTheText) {

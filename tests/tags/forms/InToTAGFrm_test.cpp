@@ -15,6 +15,7 @@
 
 #include "platform/qt/qt_text.hpp"
 #include "tags/forms/candidate_delegate.hpp"
+#include "tags/forms/candidate_model.hpp"
 #include "tags/forms/tip_line.hpp"
 #include "tags/forms/view_caret_place.hpp"
 #include "tests/fakes/completion_world.hpp"
@@ -245,10 +246,73 @@ TEST_F(PopupWindow, TextCommittedByTheInputMethodCountsAsTyped) {
   desk.Put(u"‸");
   desk.Type("<");
   QInputMethodEvent commit;
-  commit.setCommitString(QStringLiteral("abあ"));
+  commit.setCommitString(QStringLiteral("ab"));
   QApplication::sendEvent(desk.view, &commit);
+  EXPECT_TRUE(desk.popup_.Visible());
   EXPECT_EQ(desk.Shown(), "<ab‸");
   EXPECT_EQ(desk.popup.Typed(), u"ab");
+}
+
+TEST_F(PopupWindow, FullWidthTextCommittedWithoutACompositionStaysInTheText) {
+  desk.Put(u"‸");
+  desk.Type("<");
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral("aあ𠮷"));
+  QApplication::sendEvent(desk.view, &commit);
+  EXPECT_FALSE(desk.popup_.Visible());
+  desk.Type("b");
+  EXPECT_EQ(desk.Shown(), "<aあ𠮷b‸");
+}
+
+TEST_F(PopupWindow, AKeyThatTypesAnotherLetterStaysInTheText) {
+  desk.Put(u"‸");
+  desk.Type("<");
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier, QStringLiteral("é"));
+  QApplication::sendEvent(desk.view, &press);
+  EXPECT_FALSE(desk.popup_.Visible());
+  EXPECT_EQ(desk.Shown(), "<é‸");
+}
+
+TEST_F(PopupWindow, ACorrectionByTheInputMethodClosesItAndReachesTheText) {
+  desk.Put(u"‸");
+  desk.Type("<ab");
+  QInputMethodEvent correction;
+  correction.setCommitString(QStringLiteral("p"), -2, 2);
+  QApplication::sendEvent(desk.view, &correction);
+  EXPECT_FALSE(desk.popup_.Visible());
+  EXPECT_EQ(desk.Shown(), "<p‸");
+}
+
+TEST_F(PopupWindow, RowsOfTheModeCarryTheMarkForEyesAndForReaders) {
+  desk.Put(u"‸");
+  desk.Type("<");
+  const auto& model = static_cast<const CandidateModel&>(*desk.List()->model());
+  const auto spoken = [&](int row) { return model.index(row).data(Qt::AccessibleTextRole).toString(); };
+  EXPECT_EQ(model.Mark(0), QStringLiteral("*"));
+  EXPECT_EQ(spoken(1), QStringLiteral("ABBR *"));
+  EXPECT_EQ(model.Mark(4), QString());
+  EXPECT_EQ(spoken(4), QStringLiteral("href"));
+  desk.popup.Preset(kModeAttribute);
+  EXPECT_EQ(spoken(0), QStringLiteral("href *")) << "the mark moves with the mode";
+}
+
+TEST_F(PopupWindow, TheMarkStandsInAColumnAtTheRightOfItsRow) {
+  desk.FillTables(1);
+  desk.Put(u"‸");
+  desk.Type("<");
+  QApplication::processEvents();
+  const QImage rows = desk.List()->viewport()->grab().toImage();
+  const auto inked = [&](int row) {
+    const QRect place = desk.List()->visualRect(desk.List()->model()->index(row, 0));
+    const QColor plain = rows.pixelColor(place.right() - 40, place.center().y());
+    for (int x = place.right() - 14; x < place.right(); ++x) {
+      for (int y = place.top(); y <= place.bottom(); ++y)
+        if (rows.pixelColor(x, y) != plain) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(inked(0));
+  EXPECT_FALSE(inked(1));
 }
 
 TEST_F(PopupWindow, ACompositionClosesItAndReachesTheText) {
