@@ -1,0 +1,59 @@
+#include "ui/editor_style.hpp"
+
+#include <QApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace kestri {
+namespace {
+
+// "»", pointing to the right or down.
+class CutArrow : public QIconEngine {
+ public:
+  explicit CutArrow(Qt::Orientation bar) : bar_(bar) {}
+
+  QIconEngine* clone() const override { return new CutArrow(bar_); }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return picture;
+  }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const qreal reach = std::min(rect.width(), rect.height()) / 4.0;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(QApplication::palette().color(group, QPalette::WindowText), reach / 2.5));
+    painter->translate(QRectF(rect).center());
+    if (bar_ == Qt::Vertical) painter->rotate(90);
+    for (const qreal start : {-reach, reach * 0.2}) {
+      QPainterPath chevron(QPointF(start, -reach));
+      chevron.lineTo(start + reach, 0);
+      chevron.lineTo(start, reach);
+      painter->drawPath(chevron);
+    }
+    painter->restore();
+  }
+
+ private:
+  Qt::Orientation bar_;
+};
+
+}  // namespace
+
+EditorStyle::EditorStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+QIcon EditorStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                const QWidget* widget) const {
+  if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new CutArrow(Qt::Horizontal));
+  if (which == SP_ToolBarVerticalExtensionButton) return QIcon(new CutArrow(Qt::Vertical));
+  return QProxyStyle::standardIcon(which, option, widget);
+}
+
+}  // namespace kestri
