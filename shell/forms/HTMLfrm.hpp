@@ -1,10 +1,12 @@
 // HTMLfrm: the editor window. It shows state and passes events; the rules live in the logic it owns.
 #pragma once
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QTimer>
 #include <memory>
 
+#include "browse/file_list.hpp"
 #include "document/document.hpp"
 #include "document/forms/EditSubFrm.hpp"
 #include "document/main_text.hpp"
@@ -15,15 +17,21 @@
 #include "platform/input_box.hpp"
 #include "platform/instances.hpp"
 #include "platform/message_box.hpp"
+#include "shell/forms/Toolbar1.hpp"
 #include "shell/forms/command_actions.hpp"
 #include "shell/forms/status_panes.hpp"
 #include "shell/forms/tool_bar.hpp"
 #include "shell/window/editor_commands.hpp"
+#include "shell/window/load_progress.hpp"
 #include "shell/window/window_settings.hpp"
 #include "tags/forms/InToTAGFrm.hpp"
+#include "tags/forms/class_color.hpp"
+#include "tags/forms/class_font_dialog.hpp"
+#include "tags/forms/view_caret_place.hpp"
 #include "tags/html_edit_commands.hpp"
 #include "tags/tag_services.hpp"
 #include "ui/edit_view.hpp"
+#include "ui/program_resources.hpp"
 
 namespace kestri {
 
@@ -31,7 +39,8 @@ class HTMLfrm : public QMainWindow,
                 private MainTextHost,
                 private DocumentWindow,
                 private EditorWindow,
-                private CaretPlace,
+                private SwitchedWindow,
+                private FileListWindow,
                 private TagHints {
  public:
   struct Services {
@@ -43,6 +52,9 @@ class HTMLfrm : public QMainWindow,
     Clipboard& clipboard;
     OpenFallbacks& fallbacks;
     Instances& instances;
+    UiEffects& effects;
+    InputMethodTools& inputMethodTools;
+    LoadProgress* progress = nullptr;  // the splash, while it is up
     QString versionText;
   };
 
@@ -51,14 +63,18 @@ class HTMLfrm : public QMainWindow,
 
   // Everything that can wait until the window stands: icons, the start count, the instance log.
   void FinishLoading();
+  // While the window loads behind a splash nothing in it can be used.
+  void SetLoading(bool loading);
 
   bool OpenDocument(std::u16string_view path);
+  void ShowFileList(FileListStart start);
   EditControl& Control() { return control_; }
   EditView& TextView() { return *view_; }
   Document& CurrentDocument() { return document_; }
   InToTAGFrm& Popup() { return popupForm_; }
   CommandActions& Commands() { return *actions_; }
   StatusPanes& Panes() { return *panes_; }
+  ToolBar& Tools() { return *toolBar_; }
   EditorCommands& CommandTarget() { return commands_; }
 
  protected:
@@ -66,13 +82,26 @@ class HTMLfrm : public QMainWindow,
   void changeEvent(QEvent* event) override;
 
  private:
-  void BuildBars();
-  void ConnectView();
-  void InstallSubclass();
+  // The stages of the load, in their order.
+  void Tell(std::u16string_view stage);
+  void BuildMenus();
+  void ApplySettings();
+  void AddIcons();
+  void RestoreBars();
+  void LayOutBars();
   void PlaceWindow();
+  void InstallSubclass(int mode);
+  void StartFirstDocument();
+
+  // The stages of the close.
+  void ShowClosing();
   void SaveSettings();
   void LeaveInstances();
+  void CloseOtherForms();
+
+  void ApplyFont();
   void TimeP();
+  std::u16string CaretText() const;
   QRect ScreenArea() const;
 
   // MainTextHost, DocumentWindow
@@ -85,7 +114,7 @@ class HTMLfrm : public QMainWindow,
   void ShowTextMenu() override;
   void PaintTextDecor(Decor rows) override;
   void ResetCaretMemo() override;
-  void SetDragMode(bool drag) override;
+  void SetDragMode(bool) override {}  // the view asks the text for its mode at each press
   void OpenDroppedFile(std::u16string_view path) override;
   void OpenInNewInstance(std::u16string_view path) override;
   void SetCaption(std::u16string_view caption) override;
@@ -100,25 +129,36 @@ class HTMLfrm : public QMainWindow,
   // EditorWindow
   void CloseWindow() override { close(); }
   void StartInstance(std::u16string_view path) override { OpenInNewInstance(path); }
-  bool ToolBarVisible() const override { return !toolBar_->isHidden(); }
-  void ShowToolBar(bool visible) override;
-  bool StatusBarVisible() const override { return !panes_->isHidden(); }
-  void ShowStatusBar(bool visible) override;
-  void ShowGuideLines(bool visible) override { view_->SetGuideLines(visible); }
+  void ShowRecentFiles() override { ShowFileList({FileListView::Recent, false}); }
+  void ShowNewDocuments() override { ShowFileList({FileListView::New, false}); }
   void ShowVersion() override;
   void ShowFreeIndent() override;
   void ShowInsertBar() override;
   void ShowTextToHtml() override;
   void ShowWindowList() override;
   void ShowLineJump() override;
+  void ShowFontDialog() override;
+  std::u16string AskColor(std::u16string_view current) override;
+  InputMode InputModeShown() const override { return view_->ChosenInputMode(); }
+  void ShowInputMode(InputMode mode) override { view_->SetInputMode(mode); }
+  void RefreshAllControls() override;
+  EditSubFrm::Dialogs InsertBarDialogs();
 
-  // CaretPlace
-  std::optional<PixelRect> GetCaretPixel() override;
-  PixelRect ScreenOfCaret() override;
-  PixelRect HintBox() override { return {}; }
-  int FontPoints() override { return settings_.fontSize; }
-  int TextWidth(std::u16string_view text) override;
-  bool TextHasFocus() override { return view_->hasFocus(); }
+  // SwitchedWindow
+  bool ToolBarVisible() const override { return floatingBar_->BarShown(); }
+  void ShowToolBar(bool visible) override { floatingBar_->ShowBar(visible); }
+  bool ToolBarDocked() const override { return floatingBar_->Docked(); }
+  void DockToolBar(bool docked) override { floatingBar_->SetDocked(docked); }
+  bool StatusBarVisible() const override { return !panes_->isHidden(); }
+  void ShowStatusBar(bool visible) override { panes_->setVisible(visible); }
+  void ShowGuideLines(bool visible) override { view_->SetGuideLines(visible); }
+  bool LineNumbersVisible() const override { return text_.Subclassed(); }
+  void ShowLineNumbers(bool visible) override { InstallSubclass(visible ? 1 : 0); }
+  void ApplyTopMost() override;
+
+  // FileListWindow
+  bool OpenFromList(std::u16string_view path) override { return OpenDocument(path); }
+  bool NewFromList(std::int16_t kind) override;
 
   // TagHints. Hints do not follow the caret; a text that must be told stands in a tool tip at the caret.
   bool HintVisible() override { return false; }
@@ -133,20 +173,32 @@ class HTMLfrm : public QMainWindow,
   EditControl control_;
   TagServices tagServices_;
   MainText text_;
+  EditView* view_;
+  ViewCaretPlace caretPlace_;
   Document document_;
   InToTAGFrm popupForm_;
   InToTAG popup_;
   HtmlEditCommands html_;
   TextTransforms transforms_;
   SaveSlots slots_;
+  ViewSwitches views_;
+  ExternalPrograms programs_;
+  InputMethodMenu inputMethod_;
   EditorCommands commands_;
+  FileList fileList_;
+  ClassColor colors_;
+  ClassFontDialog fonts_;
+  ProgramResources resources_;
   EditSubFrm* insertBar_ = nullptr;
 
   CommandActions* actions_ = nullptr;
   ToolBar* toolBar_ = nullptr;
+  Toolbar1* floatingBar_ = nullptr;
   StatusPanes* panes_ = nullptr;
-  EditView* view_ = nullptr;
+  QLabel* labelText_ = nullptr;  // what the window says over its text
   QTimer timeP_;
+  QString iconName_;     // of the document's kind, in the icon theme
+  bool loaded_ = false;  // pictures may be read
 };
 
 }  // namespace kestri

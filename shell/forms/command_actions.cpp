@@ -24,10 +24,11 @@ const CommandRow* RowOf(const QAction& action) {
 
 }  // namespace
 
-CommandActions::CommandActions(EditorCommands& commands, Tell tell, QObject* parent)
-    : QObject(parent), commands_(commands), tell_(std::move(tell)) {
-  for (const CommandRow& row : CommandRows())
-    actions_.push_back(row.IsSeparator() ? nullptr : MakeAction(row));
+CommandActions::CommandActions(EditorCommands& commands, Tell tell, QWidget* window)
+    : QObject(window), commands_(commands), tell_(std::move(tell)), actions_(CommandRows().size()) {
+  for (const CommandRow& row : CommandRows()) {
+    if (!row.key.empty()) window->addAction(Action(row));
+  }
 }
 
 QAction* CommandActions::MakeAction(const CommandRow& row) {
@@ -41,7 +42,7 @@ QAction* CommandActions::MakeAction(const CommandRow& row) {
     action->setShortcut(QKeySequence(key, QKeySequence::PortableText));
   }
   connect(action, &QAction::triggered, this, [this, &row] { Run(row); });
-  connect(action, &QAction::hovered, this, [this, &row] { tell_.hint(ToQt(row.hint)); });
+  connect(action, &QAction::hovered, this, [this, &row] { tell_.hint(row.hint); });
   return action;
 }
 
@@ -59,8 +60,10 @@ void CommandActions::ShowStates(const QList<QAction*>& actions, MenuState state)
   }
 }
 
-QAction* CommandActions::Action(const CommandRow& row) const {
-  return actions_[static_cast<std::size_t>(IndexOf(row))];
+QAction* CommandActions::Action(const CommandRow& row) {
+  QAction*& action = actions_[static_cast<std::size_t>(IndexOf(row))];
+  if (action == nullptr) action = MakeAction(row);
+  return action;
 }
 
 void CommandActions::Run(const CommandRow& row) {
@@ -76,26 +79,45 @@ void CommandActions::Run(const CommandRow& row) {
 }
 
 void CommandActions::BuildMenus(QMenuBar& bar) {
-  std::map<TopMenu, QMenu*> tops;
-  for (const TopMenu top : TopMenus()) tops[top] = bar.addMenu(ToQt(TopMenuCaption(top)));
-  for (const CommandRow& row : CommandRows()) {
-    QMenu* menu = tops.at(row.menu);
-    AddRow(row.submenu.empty() ? *menu : Submenu(*menu, row.submenu), row);
+  for (const TopMenu top : TopMenus()) {
+    QMenu* menu = bar.addMenu(ToQt(TopMenuCaption(top)));
+    tops_[top] = menu;
+    connect(menu, &QMenu::aboutToShow, this, [this, top] { Fill(top); });
+    FollowMenu(*menu);
   }
-  for (const auto& [top, menu] : tops) FollowMenu(*menu);
-  for (const auto& [caption, menu] : submenus_) FollowMenu(*menu);
 }
 
-QMenu& CommandActions::Submenu(QMenu& top, std::u16string_view caption) {
+void CommandActions::Fill(TopMenu top) {
+  if (!filled_.insert(top).second) return;
+  QMenu& menu = *tops_.at(top);
+  for (const CommandRow& row : CommandRows()) {
+    if (row.menu == top) AddRow(row.submenu.empty() ? menu : MakeSubmenu(menu, row.submenu), row);
+  }
+}
+
+QMenu& CommandActions::Menu(TopMenu top) {
+  Fill(top);
+  return *tops_.at(top);
+}
+
+QMenu& CommandActions::MakeSubmenu(QMenu& top, std::u16string_view caption) {
   if (const auto known = submenus_.find(caption); known != submenus_.end()) return *known->second;
   const std::u16string_view parent = ParentSubmenu(caption);
-  QMenu* made = (parent.empty() ? top : Submenu(top, parent)).addMenu(ToQt(caption));
+  QMenu* made = (parent.empty() ? top : MakeSubmenu(top, parent)).addMenu(ToQt(caption));
   submenus_.emplace(caption, made);
+  FollowMenu(*made);
   return *made;
 }
 
+QMenu& CommandActions::Submenu(std::u16string_view caption) {
+  for (const CommandRow& row : CommandRows()) {
+    if (row.submenu == caption || ParentSubmenu(row.submenu) == caption) Fill(row.menu);
+  }
+  return *submenus_.at(caption);
+}
+
 void CommandActions::PopUp(std::u16string_view submenu, QPoint at) {
-  submenus_.at(submenu)->popup(at);
+  Submenu(submenu).popup(at);
 }
 
 void CommandActions::ShowSubmenuCaptions() {
@@ -108,7 +130,13 @@ void CommandActions::AddRow(QMenu& menu, const CommandRow& row) {
     menu.addSeparator();
   } else {
     menu.addAction(Action(row));
+    ShowIcon(row);
   }
+}
+
+void CommandActions::ShowIcon(const CommandRow& row) {
+  QAction* action = Action(row);
+  if (withIcons_ && !row.icon.empty() && action->icon().isNull()) action->setIcon(CommandIcon(row.icon));
 }
 
 void CommandActions::FollowMenu(QMenu& menu) {
@@ -117,7 +145,7 @@ void CommandActions::FollowMenu(QMenu& menu) {
     ShowStates(menu.actions(), MenuState::Open);
   });
   connect(&menu, &QMenu::aboutToHide, this, [this, &menu] {
-    tell_.hint(QString());
+    tell_.hint(0);
     // Behind the chosen command, which still runs by the state that the menu showed. The menu may be gone by
     // then.
     QTimer::singleShot(0, this, [this, actions = menu.actions()] { ShowStates(actions, MenuState::Closed); });
@@ -130,8 +158,9 @@ void CommandActions::FillMenu(QMenu& menu, std::span<const CommandRow* const> ro
 }
 
 void CommandActions::AddIcons() {
+  withIcons_ = true;
   for (const CommandRow& row : CommandRows()) {
-    if (!row.icon.empty()) Action(row)->setIcon(CommandIcon(row.icon));
+    if (filled_.contains(row.menu) && !row.IsSeparator()) ShowIcon(row);
   }
 }
 

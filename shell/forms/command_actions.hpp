@@ -1,4 +1,5 @@
-// One QAction for each command row, and the menus built from them.
+// One QAction for each command row, and the menus built from them. At the start only what a key needs is
+// made; a menu is filled when it opens for the first time.
 #pragma once
 
 #include <QAction>
@@ -7,6 +8,7 @@
 #include <QObject>
 #include <functional>
 #include <map>
+#include <set>
 #include <vector>
 
 #include "shell/window/commands.hpp"
@@ -15,29 +17,41 @@ namespace kestri {
 
 class CommandActions : public QObject {
  public:
-  // Texts for the user: a hint when an item is pointed at (empty: none), and an error that a command raised.
+  // For the user: the number of an item's hint when it is pointed at (0: none), and an error that a command
+  // raised.
   struct Tell {
-    std::function<void(const QString&)> hint;
+    std::function<void(int)> hint;
     std::function<void()> unknownError;
   };
-  CommandActions(EditorCommands& commands, Tell tell, QObject* parent);
+  // The window takes the shortcuts.
+  CommandActions(EditorCommands& commands, Tell tell, QWidget* window);
 
   void BuildMenus(QMenuBar& bar);
+  // From here on items have their icons.
   void AddIcons();
+  QMenu& Menu(TopMenu top);                     // filled
+  QMenu& Submenu(std::u16string_view caption);  // by its name in the rows
   // Opens a submenu by itself, in global pixels.
   void PopUp(std::u16string_view submenu, QPoint at);
   // The items of the given rows with their present enabled state, as a context menu.
   void FillMenu(QMenu& menu, std::span<const CommandRow* const> rows);
 
-  QAction* Action(const CommandRow& row) const;
+  QAction* Action(const CommandRow& row);
   // Runs the command if it may run now. Nothing that it raises leaves this call.
   void Run(const CommandRow& row);
   bool MayRun(const CommandRow& row) const { return row.enabled(commands_); }
+  // The caption of this moment, with "&" before the mnemonic.
+  std::u16string Caption(const CommandRow& row) const {
+    return row.liveCaption == nullptr ? std::u16string(row.caption) : row.liveCaption(commands_);
+  }
+  bool Checked(const CommandRow& row) const { return row.checked != nullptr && row.checked(commands_); }
 
  private:
   QAction* MakeAction(const CommandRow& row);
+  void Fill(TopMenu top);
   void AddRow(QMenu& menu, const CommandRow& row);
-  QMenu& Submenu(QMenu& top, std::u16string_view caption);
+  void ShowIcon(const CommandRow& row);
+  QMenu& MakeSubmenu(QMenu& top, std::u16string_view caption);
   void ShowSubmenuCaptions();
   void FollowMenu(QMenu& menu);
   enum class MenuState { Open, Closed };
@@ -45,8 +59,11 @@ class CommandActions : public QObject {
 
   EditorCommands& commands_;
   Tell tell_;
+  std::map<TopMenu, QMenu*> tops_;
+  std::set<TopMenu> filled_;
   std::map<std::u16string_view, QMenu*> submenus_;
-  std::vector<QAction*> actions_;  // by the row's place in CommandRows(); null for separators
+  std::vector<QAction*> actions_;  // by the row's place in CommandRows(); null while not made
+  bool withIcons_ = false;
 };
 
 }  // namespace kestri

@@ -1,54 +1,93 @@
 #include "shell/forms/status_panes.hpp"
 
 #include <QFontMetrics>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
 
 namespace kestri {
 namespace {
 
-// A label whose long text is cut with dots instead of widening the window.
-class ElidedLabel : public QLabel {
- public:
-  using QLabel::QLabel;
-  QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+constexpr int kPadding = 7;  // pixels on each side
+
+struct PaneRow {
+  const char16_t* name;
+  const char16_t* widest;    // empty: the pane takes what is left
+  const char16_t* smallest;  // what must be read in a narrow window
 };
 
-int WidthOf(const QLabel& label, const QString& widest) {
-  constexpr int kPadding = 14;  // pixels, frame included
-  return label.fontMetrics().horizontalAdvance(widest) + kPadding;
-}
+constexpr std::array<PaneRow, 6> kPanes = {{{u"メッセージ", u"", u"保存完了 [ 2026"},
+                                            {u"状態", u"99999(ｲﾝﾃﾞｯｸｽ) / 99999", u"変更あり"},
+                                            {u"改行コード", u"CR+LF", u"CR+LF"},
+                                            {u"文書の種類", u"HTML", u"HTML"},
+                                            {u"カーソル位置", u"99999行 9999列", u"999行 99列"},
+                                            {u"時刻", u"00:00:00 AM", u"00:00:00 AM"}}};
 
 }  // namespace
 
+StatusPane::StatusPane(const QString& name, Qt::Alignment alignment, QWidget* parent)
+    : QWidget(parent), alignment_(alignment) {
+  setAccessibleName(name);
+}
+
+int StatusPane::WidthOf(const QString& text) const {
+  return fontMetrics().horizontalAdvance(text) + 2 * kPadding;
+}
+
+QSize StatusPane::sizeHint() const {
+  return {std::clamp(WidthOf(text_), minimumWidth(), maximumWidth()), fontMetrics().height()};
+}
+
+void StatusPane::SetText(const QString& text) {
+  if (text == text_) return;
+  text_ = text;
+  setAccessibleDescription(text);
+  if (sizeHint().width() != width()) updateGeometry();
+  update();
+}
+
+void StatusPane::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect room = rect().adjusted(kPadding, 0, -kPadding, 0);
+  painter.drawText(room, static_cast<int>(alignment_ | Qt::TextSingleLine),
+                   fontMetrics().elidedText(text_, Qt::ElideRight, room.width()));
+}
+
+bool StatusPane::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const bool cut = WidthOf(text_) > width();
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut ? text_.toHtmlEscaped() : QString(),
+                     this);
+  return true;
+}
+
 StatusPanes::StatusPanes(QWidget* parent) : QStatusBar(parent) {
-  static const std::array<const char16_t*, 5> kNames = {u"メッセージ", u"状態", u"改行コード", u"文書の種類",
-                                                        u"時刻"};
-  static const std::array<const char16_t*, 5> kWidest = {u"", u"99999(ｲﾝﾃﾞｯｸｽ) / 99999", u"CR+LF", u"HTML",
-                                                         u"00:00:00 AM"};
-  setContentsMargins(4, 0, 0, 0);
   for (std::size_t i = 0; i < panes_.size(); ++i) {
-    panes_[i] = new ElidedLabel(this);
-    panes_[i]->setTextFormat(Qt::PlainText);
-    panes_[i]->setAccessibleName(QString::fromUtf16(kNames[i]));
-    const QString widest = QString::fromUtf16(kWidest[i]);
-    if (!widest.isEmpty()) {
-      panes_[i]->setFixedWidth(WidthOf(*panes_[i], widest));
-      panes_[i]->setAlignment(Qt::AlignCenter);
-    }
-    addWidget(panes_[i], widest.isEmpty() ? 1 : 0);
+    const PaneRow& row = kPanes[i];
+    const QString widest = QString::fromUtf16(row.widest);
+    const bool stretches = widest.isEmpty();
+    panes_[i] = new StatusPane(QString::fromUtf16(row.name),
+                               Qt::AlignVCenter | (stretches ? Qt::AlignLeft : Qt::AlignHCenter), this);
+    panes_[i]->setMinimumWidth(panes_[i]->WidthOf(QString::fromUtf16(row.smallest)));
+    panes_[i]->setMaximumWidth(stretches ? QWIDGETSIZE_MAX : panes_[i]->WidthOf(widest));
+    panes_[i]->setSizePolicy(stretches ? QSizePolicy::Ignored : QSizePolicy::Preferred, QSizePolicy::Fixed);
+    addWidget(panes_[i], stretches ? 1 : 0);
   }
 }
 
+StatusPane* StatusPanes::At(int pane) const {
+  if (pane < 1 || pane > static_cast<int>(panes_.size())) return nullptr;
+  return panes_[static_cast<std::size_t>(pane - 1)];
+}
+
 void StatusPanes::SetPane(int pane, const QString& text) {
-  if (pane < 1 || pane > static_cast<int>(panes_.size())) return;
-  QLabel* label = panes_[static_cast<std::size_t>(pane - 1)];
-  if (label->text() == text) return;
-  label->setText(text);
-  label->setToolTip(label->fontMetrics().horizontalAdvance(text) > label->width() ? text : QString());
+  if (StatusPane* label = At(pane)) label->SetText(text);
 }
 
 QString StatusPanes::Pane(int pane) const {
-  if (pane < 1 || pane > static_cast<int>(panes_.size())) return {};
-  return panes_[static_cast<std::size_t>(pane - 1)]->text();
+  const StatusPane* label = At(pane);
+  return label == nullptr ? QString() : label->Text();
 }
 
 }  // namespace kestri

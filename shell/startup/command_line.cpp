@@ -1,5 +1,7 @@
 #include "shell/startup/command_line.hpp"
 
+#include <algorithm>
+
 #include "shell/common/application_state.hpp"
 #include "shell/common/text.hpp"
 
@@ -14,6 +16,18 @@ bool IsPath(std::u16string_view line, const ClassCommon& common) {
   return folder.size() > 1 && common.IsFileAttribute(folder, kAttributeDirectory);
 }
 
+struct SwitchRow {
+  std::u16string_view prefix;
+  WindowSwitch value;
+};
+
+constexpr SwitchRow kSwitches[] = {
+    {u"/SL ", WindowSwitch::ImageSlides}, {u"/CI ", WindowSwitch::ImageConversion},
+    {u"/CL ", WindowSwitch::Compile},     {u"/DA ", WindowSwitch::Unpack},
+    {u"/AC ", WindowSwitch::Pack},
+};
+constexpr std::size_t kPrefixLength = 4;
+
 }  // namespace
 
 std::u16string RawCommandLine(std::span<char* const> arguments) {
@@ -22,7 +36,22 @@ std::u16string RawCommandLine(std::span<char* const> arguments) {
     if (i > 0) line += u' ';
     line += FromUtf8(arguments[i]);
   }
-  return ClassCommon::StringSurround(line, ClassCommon::Surround::Remove, kQuote, kQuote, Compare::Binary,
+  return line;
+}
+
+WindowSwitch WindowSwitchOf(std::u16string_view rawLine, const ClassCommon& common) {
+  for (const SwitchRow& row : kSwitches) {
+    if (rawLine.starts_with(row.prefix)) return IsPath(rawLine, common) ? WindowSwitch::None : row.value;
+  }
+  return WindowSwitch::None;
+}
+
+std::u16string SwitchArgument(std::u16string_view rawLine) {
+  return WithoutQuotes(rawLine.substr(std::min(kPrefixLength, rawLine.size())));
+}
+
+std::u16string WithoutQuotes(std::u16string_view text) {
+  return ClassCommon::StringSurround(text, ClassCommon::Surround::Remove, kQuote, kQuote, Compare::Binary,
                                      true);
 }
 

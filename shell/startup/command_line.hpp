@@ -10,6 +10,16 @@
 
 namespace kestri {
 
+// Switches that open another window than the editor's. Case-sensitive, each with one blank and an argument.
+enum class WindowSwitch {
+  None,
+  ImageSlides,      // "/SL "
+  ImageConversion,  // "/CI "
+  Compile,          // "/CL "
+  Unpack,           // "/DA "
+  Pack,             // "/AC "
+};
+
 // Codes of StartupState[1].
 enum class StartMode : std::int32_t {
   None = 0,
@@ -19,8 +29,17 @@ enum class StartMode : std::int32_t {
   UnknownSwitch = -1,
 };
 
-// The arguments joined by one blank, quotes around the whole taken off.
+// The arguments joined by one blank.
 std::u16string RawCommandLine(std::span<char* const> arguments);
+
+// By the first four characters of the raw line. A line that is a path as a whole is no switch.
+WindowSwitch WindowSwitchOf(std::u16string_view rawLine, const ClassCommon& common);
+
+// Everything behind the four characters, trimmed, without the quotes around it.
+std::u16string SwitchArgument(std::u16string_view rawLine);
+
+// Trimmed, then one enclosing pair of double quotes taken off.
+std::u16string WithoutQuotes(std::u16string_view text);
 
 // Exactly "/?".
 bool AsksForVersion(std::u16string_view line);

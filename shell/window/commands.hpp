@@ -10,7 +10,7 @@ namespace kestri {
 
 class EditorCommands;
 
-enum class TopMenu { File, Edit, Search, Html, Tool, View, Help };
+enum class TopMenu { File, Edit, Search, Html, Tool, View, Setting, Help };
 
 struct CommandRow {
   TopMenu menu;
@@ -18,7 +18,7 @@ struct CommandRow {
   std::string_view array;       // name and index of the item, empty for a separator
   int index;
   std::u16string_view caption;  // with "&" before the mnemonic
-  std::u16string_view hint;     // shown in the status bar
+  int hint;                     // number of the text for the status bar, see menu_hints.hpp
   std::string_view key;         // shortcut in portable words, empty for none
   std::string_view icon;        // freedesktop name, or "kestrile-..." for one of our own; empty for none
   bool (*enabled)(const EditorCommands&);
@@ -46,22 +46,5 @@ std::u16string SubmenuCaption(std::u16string_view submenu, const EditorCommands&
 
 // Null when there is no such item.
 const CommandRow* FindCommand(std::string_view array, int index);
-
-// A tool bar button runs one command; its drop-down offers others.
-struct ToolRow {
-  std::string_view key;  // "New", "Open", ...; empty for a separator
-  std::u16string_view caption;
-  std::string_view array;
-  int index;
-  struct Entry {
-    std::string_view key;
-    std::u16string_view caption;  // "-" for a separator
-    std::string_view array;
-    int index;
-  };
-  std::span<const Entry> entries;
-};
-
-std::span<const ToolRow> ToolRows();
 
 }  // namespace kestri

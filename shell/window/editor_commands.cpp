@@ -1,5 +1,6 @@
 #include "shell/window/editor_commands.hpp"
 
+#include "document/document_template.hpp"
 #include "search/document_reports.hpp"
 #include "shell/window/new_document.hpp"
 #include "tags/mode_at_caret.hpp"
@@ -43,6 +44,10 @@ bool EditorCommands::TagToolsOn() const {
 void EditorCommands::New(std::int16_t kind) {
   if (!around_.document.ConfirmDiscard(u"新規作成")) return;
   NewText(kind, around_.common, around_.document, around_.documentWindow, around_.state, around_.inputBox);
+}
+
+void EditorCommands::ChooseNew() {
+  if (around_.document.ConfirmDiscard(u"新規作成")) around_.window.ShowNewDocuments();
 }
 
 void EditorCommands::Open() {
@@ -89,6 +94,10 @@ void EditorCommands::OpenHistory(int index) {
   if (!around_.document.ConfirmDiscard(u"開く")) return;
   const std::u16string path = HistoryEntry(index);
   around_.document.OpenDocument(path.empty() ? u"Empty!!" : path, ReadOnly::No);
+}
+
+void EditorCommands::OpenOtherRecentFile() {
+  if (around_.document.ConfirmDiscard(u"最近使用したﾌｧｲﾙを開く")) around_.window.ShowRecentFiles();
 }
 
 void EditorCommands::ClearHistory() {
@@ -153,17 +162,19 @@ void EditorCommands::ShowTotalBytes() {
   kestri::ShowTotalBytes(around_.text.Control(), around_.documentWindow);
 }
 
-void EditorCommands::ToggleToolBar() {
-  around_.window.ShowToolBar(!around_.window.ToolBarVisible());
+void EditorCommands::ColorEdit() {
+  if (around_.text.RefuseIfLocked()) return;
+  const std::u16string color = around_.window.AskColor(around_.text.Control().SelText());
+  if (!color.empty()) around_.text.ReplaceSelHwnd(color, true, true);
 }
 
-void EditorCommands::ToggleStatusBar() {
-  around_.window.ShowStatusBar(!around_.window.StatusBarVisible());
+bool EditorCommands::HasTemplate(int kind) const {
+  return around_.common.PathExists(TemplatePath(around_.common, static_cast<std::int16_t>(kind)));
 }
 
-void EditorCommands::ToggleGuideLines() {
-  around_.state.gLine = GuideLinesShown() ? 0 : 1;
-  around_.window.ShowGuideLines(GuideLinesShown());
+void EditorCommands::EditTemplate(int kind) {
+  if (!around_.document.ConfirmDiscard(u"開く")) return;
+  around_.document.OpenDocument(TemplatePath(around_.common, static_cast<std::int16_t>(kind)), ReadOnly::No);
 }
 
 void EditorCommands::OpenHelp(std::u16string_view fileName) {

@@ -6,13 +6,16 @@
 #include <string_view>
 
 #include "document/document.hpp"
+#include "document/input_mode.hpp"
 #include "document/main_text.hpp"
 #include "document/save_slots.hpp"
 #include "document/text_transforms.hpp"
 #include "platform/input_box.hpp"
 #include "platform/message_box.hpp"
+#include "run/external_programs.hpp"
 #include "shell/common/application_state.hpp"
 #include "shell/common/class_common.hpp"
+#include "shell/window/view_switches.hpp"
 #include "tags/html_edit_commands.hpp"
 
 namespace kestri {
@@ -23,17 +26,19 @@ class EditorWindow {
   virtual ~EditorWindow() = default;
   virtual void CloseWindow() = 0;
   virtual void StartInstance(std::u16string_view path) = 0;  // another process; empty: a new document
-  virtual bool ToolBarVisible() const = 0;
-  virtual void ShowToolBar(bool visible) = 0;
-  virtual bool StatusBarVisible() const = 0;
-  virtual void ShowStatusBar(bool visible) = 0;
-  virtual void ShowGuideLines(bool visible) = 0;
+  virtual void ShowRecentFiles() = 0;
+  virtual void ShowNewDocuments() = 0;
   virtual void ShowVersion() = 0;
   virtual void ShowFreeIndent() = 0;
   virtual void ShowInsertBar() = 0;
   virtual void ShowTextToHtml() = 0;
   virtual void ShowWindowList() = 0;
   virtual void ShowLineJump() = 0;
+  virtual void ShowFontDialog() = 0;
+  virtual std::u16string AskColor(std::u16string_view current) = 0;  // "#RRGGBB"; empty when cancelled
+  virtual InputMode InputModeShown() const = 0;
+  virtual void ShowInputMode(InputMode mode) = 0;
+  virtual void RefreshAllControls() = 0;
 };
 
 class EditorCommands {
@@ -47,6 +52,9 @@ class EditorCommands {
     HtmlEditCommands& html;
     TextTransforms& transforms;
     SaveSlots& slots;
+    ViewSwitches& views;
+    ExternalPrograms& programs;
+    InputMethodMenu& inputMethod;
     InputBox& inputBox;
     MessageBox& boxes;
     EditorWindow& window;
@@ -64,11 +72,8 @@ class EditorCommands {
   bool HasText() const;
   bool TagToolsOn() const;  // HTML documents, or all when the setting says so
 
-  bool ToolBarShown() const { return around_.window.ToolBarVisible(); }
-  bool StatusBarShown() const { return around_.window.StatusBarVisible(); }
-  bool GuideLinesShown() const { return around_.state.gLine != 0; }
-
   void New(std::int16_t kind);
+  void ChooseNew();
   void Open();
   void Save();
   void SaveAs();
@@ -78,6 +83,7 @@ class EditorCommands {
   std::u16string HistoryCaption(int index) const;
   bool HistoryShown(int index) const;  // the first place always, the others when in use
   void OpenHistory(int index);
+  void OpenOtherRecentFile();
   void ClearHistory();
   void Exit();
 
@@ -93,17 +99,20 @@ class EditorCommands {
   void CEdit(int index);
   void CandidatesAtCaret();
   void CallUserInTo();
+  void ColorEdit();
+
+  bool HasTemplate(int kind) const;
+  void EditTemplate(int kind);
 
   TextTransforms& Transforms() const { return around_.transforms; }
   SaveSlots& Slots() const { return around_.slots; }
+  ViewSwitches& Views() const { return around_.views; }
+  ExternalPrograms& Programs() const { return around_.programs; }
+  InputMethodMenu& InputMethod() const { return around_.inputMethod; }
   EditorWindow& Window() const { return around_.window; }
   std::u16string DefaultSlotCaption(std::u16string_view command) const;
   void ShowTotalIndex();
   void ShowTotalBytes();
-
-  void ToggleToolBar();
-  void ToggleStatusBar();
-  void ToggleGuideLines();
 
   void OpenHelp(std::u16string_view fileName);
   void ShowVersion();

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "document/document_template.hpp"
+
 namespace kestri {
 namespace {
 
@@ -12,12 +14,43 @@ constexpr std::array<std::u16string_view, 15> kExtensions = {u"",       u".txt",
                                                              u".c",     u".h",   u".bat", u".ini", u".java",
                                                              u".clped", u"",     u".vbs", u".txt", u".aat"};
 
-std::u16string TemplateText(std::int16_t kind, const ClassCommon& common) {
-  if (kind == kClipFile) return {};
-  const std::u16string folder = common.Join(common.ProgramFolder(), u"DataFiles");
+struct NewContent {
   std::u16string text;
-  common.ReadTextFile(common.Join(folder, u"NewData" + ToText(kind) + u".fmtdat"), text, -1);
-  return text;
+  std::size_t caret = 0;
+  bool templateRefused = false;  // there is one, but it is no text or may not be read
+};
+
+NewContent ContentOf(std::int16_t kind, const ClassCommon& common, const Document& document) {
+  if (kind == kClipFile || !common.PathExists(TemplatePath(common, kind))) return {};
+  auto read = ReadTemplate(common, kind);
+  if (!read) return {.text = {}, .caret = 0, .templateRefused = true};
+  NewContent content{.text = document.TabsToBlanks(std::move(read->beforeCaret))};
+  content.caret = content.text.size();
+  content.text += document.TabsToBlanks(std::move(read->afterCaret));
+  return content;
+}
+
+bool HoldsText(const EditControl& control, std::u16string_view text) {
+  const std::u16string_view head = control.FirstPiece();
+  return static_cast<std::size_t>(control.Length()) == text.size() && text.starts_with(head) &&
+         text.substr(head.size()) == control.SecondPiece();
+}
+
+bool FillWith(NewContent content, Document& document) {
+  EditControl& control = document.Control();
+  if (HoldsText(control, content.text)) {
+    control.EM_EMPTYUNDOBUFFER();
+  } else if (!document.SetDocumentText(std::move(content.text), KeepModified::No)) {
+    return false;
+  }
+  control.SetSelStart(static_cast<Position>(content.caret));
+  control.EM_SCROLLCARET();
+  return true;
+}
+
+std::u16string StatusOf(std::u16string_view extension, bool templateRefused) {
+  const bool blank = extension.empty() || templateRefused;
+  return u"新規作成 (" + std::u16string(blank ? u"白紙" : extension) + u")";
 }
 
 std::u16string FolderForNew(const ClassCommon& common, const ApplicationState& state) {
@@ -38,15 +71,18 @@ std::optional<std::u16string> AskExtension(InputBox& box) {
 }
 
 bool NewText(std::int16_t kind, const ClassCommon& common, Document& document, DocumentWindow& window,
-             ApplicationState& state, InputBox& box) {
+             ApplicationState& state, InputBox& box, UseTemplate useTemplate) {
   const auto extension = kind == kAsked ? AskExtension(box) : NewDocumentExtension(kind);
   if (!extension) return false;
-  document.SetDocumentText(TemplateText(kind, common), KeepModified::No);
+  NewContent content = useTemplate == UseTemplate::Yes ? ContentOf(kind, common, document) : NewContent();
+  const std::u16string status = StatusOf(*extension, content.templateRefused);
+  if (!FillWith(std::move(content), document)) return false;
   state.currentFolder = FolderForNew(common, state);
   const std::u16string withoutDot = extension->empty() ? u"" : extension->substr(1);
   document.ApplyOpenedFile(common.SameFileName(state.currentFolder, u"無題", withoutDot), ReadOnly::No,
                            u"CR+LF");
-  window.MessageToStatusBar(extension->empty() ? u"新規作成 (白紙)" : u"新規作成 (" + *extension + u")");
+  window.MessageToStatusBar(status);
+  window.FocusText();
   return true;
 }
 

@@ -17,9 +17,13 @@ std::optional<std::u16string> NewDocumentExtension(std::int16_t kind);
 // Kind 11: asks for the extension; a leading "." is added when missing. Nothing on cancel.
 std::optional<std::u16string> AskExtension(InputBox& box);
 
+enum class UseTemplate { No, Yes };
+
 // Replaces the document by a new one named "無題" in the current folder, filled from the template of its kind
-// when there is one. False when the user cancelled; the document is then as it was.
+// when there is one, with the caret at the template's mark. A template that cannot be read leaves it blank
+// and says so. False when the user cancelled, or no room was left for the text; the document is then as it
+// was.
 bool NewText(std::int16_t kind, const ClassCommon& common, Document& document, DocumentWindow& window,
-             ApplicationState& state, InputBox& box);
+             ApplicationState& state, InputBox& box, UseTemplate useTemplate = UseTemplate::Yes);
 
 }  // namespace kestri

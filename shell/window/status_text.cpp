@@ -27,4 +27,8 @@ std::u16string ClockText(const std::tm& now) {
   return TimeOfDay(now) + u" " + HalfOfDay(now);
 }
 
+std::u16string CaretPlaceText(std::int64_t row, std::int64_t column) {
+  return ToText(row) + u"行 " + ToText(column) + u"列";
+}
+
 }  // namespace kestri

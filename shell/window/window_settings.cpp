@@ -10,6 +10,7 @@ namespace {
 
 constexpr char kSetting[] = "Setting";
 constexpr char kBar[] = "Bar";
+constexpr char kHint[] = "IMGTint";
 
 constexpr std::int16_t kMostTabSpaces = 4;  // the largest level that the settings offer: 16 blanks
 
@@ -26,6 +27,8 @@ void LoadEditing(SettingsReader& reader, ApplicationState& state) {
   state.menuHints = reader.Integer(kSetting, "MenuHints", 1);
   state.popUpMen = reader.Integer(kSetting, "PopUpMen", 1);
   state.gLine = reader.Integer(kSetting, "GLine", 0);
+  state.menuAnimation = reader.Integer(kSetting, "MenuAnimation", 0);
+  state.showInfoOnSelect = reader.Integer(kBar, "FileInfo", 0);
 }
 
 void LoadLook(SettingsReader& reader, WindowSettings& settings) {
@@ -36,11 +39,23 @@ void LoadLook(SettingsReader& reader, WindowSettings& settings) {
   settings.eofMarkType = reader.Integer(kSetting, "EofMarkType", 0);
   settings.subClass = reader.Integer(kSetting, "SubClass", 1);
   settings.menIcon = reader.Integer(kSetting, "MenIcon", 1);
-  settings.menuAnimation = reader.Integer(kSetting, "MenuAnimation", 0);
   settings.toolBarShow = reader.Integer(kBar, "ToolBarShow0", 1);
   settings.statusBarShow = reader.Integer(kBar, "StatusBar0", 1);
   settings.statusBarHeight = reader.Long(kBar, "StatusBarHeight", 300);
+  settings.toolBar = ReadToolBarPlace(reader);
+  settings.directoryTreeWidth = reader.Long(kBar, "DirectoryTreeWidth", 3000);
   settings.timerPeriod = std::clamp<std::int32_t>(reader.Integer(kSetting, "ClTimer", 2), 1, 5) * 50 + 1;
+}
+
+void LoadHintCharacter(SettingsReader& reader, const ClassCommon& common, HintCharacter& character) {
+  const std::u16string folder = common.Join(common.ProgramFolder(), u"DataFiles");
+  character.shown = reader.Integer(kHint, "IMGTint", 0);
+  character.picture = reader.Text(kHint, "IMGPath", common.Join(folder, u"HintFig_B.bmp"));
+  character.fontSize = reader.Long(kHint, "FontSize", 9);
+  character.fontStyle = reader.Integer(kHint, "FontStyle", 0);
+  character.left = reader.Long(kHint, "LEFT", 150);
+  character.top = reader.Long(kHint, "TOP", 300);
+  character.wrap = reader.Long(kHint, "Worp", 50);
 }
 
 void LoadPlacement(SettingsReader& reader, WindowSettings& settings) {
@@ -86,6 +101,16 @@ void SaveEditing(SettingsWriter& writer, const ApplicationState& state) {
   writer.Number(kSetting, "TabASeT", state.tabASeT);
 }
 
+void SaveHintCharacter(SettingsWriter& writer, const HintCharacter& character) {
+  writer.Number(kHint, "IMGTint", character.shown);
+  writer.Text(kHint, "IMGPath", character.picture);
+  writer.Number(kHint, "FontSize", character.fontSize);
+  writer.Number(kHint, "FontStyle", character.fontStyle);
+  writer.Number(kHint, "LEFT", character.left);
+  writer.Number(kHint, "TOP", character.top);
+  writer.Number(kHint, "Worp", character.wrap);
+}
+
 void SavePlacement(SettingsWriter& writer, const WindowSettings& settings, WindowState windowState) {
   const PlacementAtClose placement = PlacementAfter(settings.startUpWindow, windowState);
   if (placement.saveMode) writer.Text(kSetting, "StartUpWindow", placement.mode);
@@ -104,15 +129,24 @@ std::optional<WindowSettings> LoadWindowSettings(const ClassCommon& common, Appl
   settings.workingFolder = WorkingFolder(common, reader);
   LoadEditing(reader, state);
   LoadLook(reader, settings);
+  LoadHintCharacter(reader, common, settings.hintCharacter);
   LoadPlacement(reader, settings);
   if (reader.Damaged()) return std::nullopt;
   state.currentFolder = settings.workingFolder;
   return settings;
 }
 
+void SaveFont(const ClassCommon& common, const WindowSettings& settings) {
+  common.SetINI(common.ExeName(), u"Setting", u"FontName", settings.fontName);
+  common.SetINI(common.ExeName(), u"Setting", u"FontSize", ToText(settings.fontSize));
+}
+
 void CountStart(const ClassCommon& common) {
-  const std::int32_t starts = ToLong(common.GetINI(common.ExeName(), u"Setting", u"Act", u"0")).value_or(0);
-  common.SetINI(common.ExeName(), u"Setting", u"Act", ToText(std::int64_t{starts} + 1));
+  common.Profiles().Update(common.IniPath(0, common.ExeName()), [](ProfileContent& content) {
+    const std::string starts = content.Get(kSetting, "Act").value_or("0");
+    SettingsWriter(content).Number(kSetting, "Act",
+                                   std::int64_t{ToLong(code_page::Decode(starts)).value_or(0)} + 1);
+  });
 }
 
 void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state,
@@ -120,9 +154,12 @@ void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state
   common.Profiles().Update(common.IniPath(0, common.ExeName()), [&](ProfileContent& content) {
     SettingsWriter writer(content);
     SaveEditing(writer, state);
+    SaveHintCharacter(writer, settings.hintCharacter);
     writer.Text(kSetting, "FontName", settings.fontName);
     writer.Number(kSetting, "FontSize", settings.fontSize);
-    writer.Number(kSetting, "MenuAnimation", settings.menuAnimation);
+    writer.Number(kSetting, "MenuAnimation", state.menuAnimation);
+    writer.Number(kBar, "DirectoryTreeWidth", settings.directoryTreeWidth);
+    writer.Number(kBar, "FileInfo", state.showInfoOnSelect);
     SavePlacement(writer, settings, windowState);
   });
 }

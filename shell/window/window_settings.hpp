@@ -8,9 +8,21 @@
 #include "shell/common/application_state.hpp"
 #include "shell/common/class_common.hpp"
 #include "shell/window/settings_reader.hpp"
+#include "shell/window/tool_bar_place.hpp"
 #include "shell/window/window_placement.hpp"
 
 namespace kestri {
+
+// The character that stands beside a tag hint.
+struct HintCharacter {
+  std::int16_t shown = 0;
+  std::u16string picture;     // path
+  std::int32_t fontSize = 9;  // points
+  std::int16_t fontStyle = 0;
+  std::int32_t left = 150;  // twips
+  std::int32_t top = 300;   // twips
+  std::int32_t wrap = 50;   // characters
+};
 
 struct WindowSettings {
   std::u16string workingFolder;  // through AppPath2
@@ -21,11 +33,13 @@ struct WindowSettings {
   std::int16_t eofMarkType = 0;
   std::int16_t subClass = 1;
   std::int16_t menIcon = 1;
-  std::int16_t menuAnimation = 0;
   std::int16_t toolBarShow = 1;
+  ToolBarPlace toolBar;
   std::int16_t statusBarShow = 1;
-  std::int32_t statusBarHeight = 300;  // twips
-  std::int32_t timerPeriod = 101;      // milliseconds
+  std::int32_t statusBarHeight = 300;      // twips
+  std::int32_t timerPeriod = 101;          // milliseconds
+  std::int32_t directoryTreeWidth = 3000;  // twips
+  HintCharacter hintCharacter;
   std::u16string startUpWindow;
   WindowRectangle rectangle;
 };
@@ -33,6 +47,9 @@ struct WindowSettings {
 // Reads the window's settings and those that live in the application state. Nothing when a number is
 // unusable.
 std::optional<WindowSettings> LoadWindowSettings(const ClassCommon& common, ApplicationState& state);
+
+// Writes the text's font.
+void SaveFont(const ClassCommon& common, const WindowSettings& settings);
 
 // Counts the start in [Setting] Act.
 void CountStart(const ClassCommon& common);

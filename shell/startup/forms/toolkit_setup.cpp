@@ -5,6 +5,8 @@
 #include <QIcon>
 #include <QLocale>
 
+#include "ui/editor_style.hpp"
+
 namespace kestri {
 
 void PrepareEnvironment() {
@@ -13,7 +15,7 @@ void PrepareEnvironment() {
 
 void PrepareLook() {
   QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan));
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setStyle(new EditorStyle);
   const QString gothic = QStringLiteral("IPAGothic");
   const QString proportional = QStringLiteral("Monapo");
   for (const char16_t* name : {u"ＭＳ ゴシック", u"MS Gothic", u"FixedSys", u"ＭＳ 明朝", u"MS Mincho"}) {

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "document/input_mode.hpp"
 #include "document/transform_rows.hpp"
 #include "shell/window/rows/row_tools.hpp"
 
@@ -13,16 +14,17 @@ inline constexpr std::u16string_view kAdvanced2 = u"高度な操作2(Ex&2)\tAlt+
 
 inline constexpr std::u16string_view kBracketMenu = u"ｶｯｺで囲む(&K)";
 inline constexpr std::u16string_view kLineCodeMenu = u"改行ｺｰﾄﾞ(&E)";
+inline constexpr std::u16string_view kInputMethodMenu = u"日本語入力(&J)";
 inline constexpr std::u16string_view kDayMenu = u"日付と時刻の挿入(&I)";
 
 template <int Index>
-constexpr CommandRow ConversionRow(std::u16string_view caption, std::u16string_view hint) {
+constexpr CommandRow ConversionRow(std::u16string_view caption) {
   return {TopMenu::Edit,
           kAdvanced1,
           "HighEdit",
           Index,
           caption,
-          hint,
+          1032,
           "",
           "",
           Ask<&C::HasSelectionToCut>,
@@ -36,7 +38,7 @@ constexpr CommandRow BracketRowOf() {
           "KakkoMenu",
           Index,
           u"ｶｯｺ",
-          u"選択範囲をｶｯｺで囲みます",
+          1033,
           "",
           "",
           kWritable,
@@ -52,7 +54,7 @@ constexpr CommandRow BracketWidthRow(std::u16string_view caption) {
           "KakkoFSet",
           Index,
           caption,
-          u"囲むｶｯｺの幅を選びます",
+          1034,
           "",
           "",
           kAlways,
@@ -67,7 +69,7 @@ constexpr CommandRow LineCodeRowOf(std::u16string_view caption) {
           "LineCode",
           Index,
           caption,
-          u"保存する時の改行ｺｰﾄﾞを選びます",
+          1035,
           "",
           "",
           kWritable,
@@ -82,7 +84,7 @@ constexpr CommandRow DayRow() {
           "Day",
           Index,
           u"日時",
-          u"現在の日付や時刻を挿入します",
+          1036,
           "",
           "",
           kWritable,
@@ -90,6 +92,46 @@ constexpr CommandRow DayRow() {
           nullptr,
           [](const C&) { return MenuText(DayRows()[Index]); }};
 }
+
+template <int Index>
+constexpr CommandRow InputModeRow(std::string_view key = "") {
+  return {TopMenu::Edit,
+          kInputMethodMenu,
+          "MenIMES",
+          Index,
+          kInputModeCaptions[Index],
+          1037,
+          key,
+          "",
+          kAlways,
+          [](C& c) { c.Window().ShowInputMode(InputModeAt(Index)); },
+          [](const C& c) { return c.Window().InputModeShown() == InputModeAt(Index); }};
+}
+
+template <int Index>
+constexpr CommandRow InputToolRow(std::u16string_view caption) {
+  return {TopMenu::Edit, kInputMethodMenu, "MenIMEsub", Index, caption, 1039, "", "", kAlways, [](C& c) {
+            c.InputMethod().MenIMEsub(Index);
+          }};
+}
+
+inline constexpr std::array kInputMethodRows = {
+    InputModeRow<0>(),
+    InputModeRow<1>("Ctrl+Alt+F6"),
+    InputModeRow<2>(),
+    InputModeRow<3>("Ctrl+Alt+F1"),
+    InputModeRow<4>("Ctrl+Alt+F2"),
+    InputModeRow<5>("Ctrl+Alt+F3"),
+    InputModeRow<6>("Ctrl+Alt+F4"),
+    InputModeRow<7>("Ctrl+Alt+F5"),
+    Separator(TopMenu::Edit, kInputMethodMenu),
+    CommandRow{TopMenu::Edit, kInputMethodMenu, "MenIMERe", 0, u"再変換(&V)", 1038, "", "", kWritable,
+               [](C& c) { c.InputMethod().MenIMERe(); }},
+    Separator(TopMenu::Edit, kInputMethodMenu),
+    InputToolRow<0>(u"IMEのﾌﾟﾛﾊﾟﾃｨ"),
+    InputToolRow<1>(u"IME単語の登録"),
+    InputToolRow<2>(u"IMEﾊﾟｯﾄﾞ"),
+};
 
 template <int... I>
 constexpr std::array<CommandRow, sizeof...(I)> BracketRowsOf(std::integer_sequence<int, I...>) {
@@ -104,48 +146,46 @@ inline constexpr auto kBracketRows = BracketRowsOf(std::make_integer_sequence<in
 inline constexpr auto kDayRows = DayRowsOf(std::make_integer_sequence<int, 9>());
 
 inline constexpr std::array kConversionRows = {
-    CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 2, u"ﾌﾘｰｲﾝﾃﾞﾝﾄ...", u"文字と数を選んで字下げします", "",
-               "", kWritable, [](C& c) { c.Window().ShowFreeIndent(); }},
+    CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 2, u"ﾌﾘｰｲﾝﾃﾞﾝﾄ...", 1031, "", "", kWritable,
+               [](C& c) { c.Window().ShowFreeIndent(); }},
     Separator(TopMenu::Edit, kAdvanced1),
-    ConversionRow<4>(u"大文字に変換", u"選択範囲の英字を大文字にします"),
-    ConversionRow<5>(u"小文字に変換", u"選択範囲の英字を小文字にします"),
-    ConversionRow<6>(u"全角に変換", u"選択範囲を全角文字にします"),
-    ConversionRow<7>(u"半角に変換", u"選択範囲を半角文字にします"),
-    ConversionRow<8>(u"ひらがなをカタカナに変換", u"選択範囲のひらがなをカタカナにします"),
-    ConversionRow<9>(u"カタカナをひらがなに変換", u"選択範囲のカタカナをひらがなにします"),
+    ConversionRow<4>(u"大文字に変換"),
+    ConversionRow<5>(u"小文字に変換"),
+    ConversionRow<6>(u"全角に変換"),
+    ConversionRow<7>(u"半角に変換"),
+    ConversionRow<8>(u"ひらがなをカタカナに変換"),
+    ConversionRow<9>(u"カタカナをひらがなに変換"),
 };
 
 inline constexpr std::array kEditEndRows = {
-    Separator(TopMenu::Edit, kBracketMenu), BracketWidthRow<0>(u"半角(&H)"), BracketWidthRow<1>(u"全角(&Z)"),
-    LineCodeRowOf<0>(u"CR + LF(&1)"),       LineCodeRowOf<1>(u"CR(&2)"),     LineCodeRowOf<2>(u"LF(&3)"),
+    Separator(TopMenu::Edit, kBracketMenu), BracketWidthRow<0>(u"半角"), BracketWidthRow<1>(u"全角"),
+    LineCodeRowOf<0>(u"CR + LF"),           LineCodeRowOf<1>(u"CR"),     LineCodeRowOf<2>(u"LF"),
 };
 
 inline constexpr std::array kEditRows = {
-    CommandRow{TopMenu::Edit, u"", "MenUNDO", 0, u"元に戻す(&U)", u"直前の操作を取り消します", "Ctrl+Z",
-               "edit-undo", Ask<&C::CanUndo>, [](C& c) { c.Undo(); }},
-    CommandRow{TopMenu::Edit, u"", "MenUNDO", 1, u"やり直し(&R)", u"取り消した操作をやり直します", "Ctrl+Y",
-               "edit-redo", Ask<&C::CanRedo>, [](C& c) { c.Redo(); }},
+    CommandRow{TopMenu::Edit, u"", "MenUNDO", 0, u"元に戻す(&U)", 1019, "Ctrl+Z", "edit-undo",
+               Ask<&C::CanUndo>, [](C& c) { c.Undo(); }},
+    CommandRow{TopMenu::Edit, u"", "MenUNDO", 1, u"やり直し(&R)", 1020, "Ctrl+Y", "edit-redo",
+               Ask<&C::CanRedo>, [](C& c) { c.Redo(); }},
     Separator(TopMenu::Edit),
-    CommandRow{TopMenu::Edit, u"", "Edit", 0, u"切り取り(&T)", u"選択範囲をｸﾘｯﾌﾟﾎﾞｰﾄﾞへ移します", "Ctrl+X",
-               "edit-cut", Ask<&C::HasSelectionToCut>, [](C& c) { c.Edit(0); }},
-    CommandRow{TopMenu::Edit, u"", "Edit", 1, u"ｺﾋﾟｰ(&C)", u"選択範囲をｸﾘｯﾌﾟﾎﾞｰﾄﾞへ複写します", "Ctrl+C",
-               "edit-copy", Ask<&C::HasSelection>, [](C& c) { c.Edit(1); }},
-    CommandRow{TopMenu::Edit, u"", "Edit", 2, u"貼り付け(&P)", u"ｸﾘｯﾌﾟﾎﾞｰﾄﾞの文字列を挿入します", "Ctrl+V",
-               "edit-paste", kWritable, [](C& c) { c.Edit(2); }},
-    CommandRow{TopMenu::Edit, u"", "Edit", 3, u"削除", u"選択範囲を削除します", "", "edit-delete",
-               Ask<&C::HasSelectionToCut>, [](C& c) { c.Edit(3); }},
+    CommandRow{TopMenu::Edit, u"", "Edit", 0, u"切り取り(&T)", 1022, "Ctrl+X", "edit-cut",
+               Ask<&C::HasSelectionToCut>, [](C& c) { c.Edit(0); }},
+    CommandRow{TopMenu::Edit, u"", "Edit", 1, u"ｺﾋﾟｰ(&C)", 1023, "Ctrl+C", "edit-copy", Ask<&C::HasSelection>,
+               [](C& c) { c.Edit(1); }},
+    CommandRow{TopMenu::Edit, u"", "Edit", 2, u"貼り付け(&P)", 1024, "Ctrl+V", "edit-paste", kWritable,
+               [](C& c) { c.Edit(2); }},
+    CommandRow{TopMenu::Edit, u"", "Edit", 3, u"削除", 1025, "", "edit-delete", Ask<&C::HasSelectionToCut>,
+               [](C& c) { c.Edit(3); }},
     Separator(TopMenu::Edit),
-    CommandRow{TopMenu::Edit, u"", "Edit", 5, u"すべて選択(&A)", u"文書全体を選択します", "Ctrl+A",
-               "edit-select-all", Ask<&C::HasText>, [](C& c) { c.Edit(5); }},
-    CommandRow{TopMenu::Edit, u"", "Edit", 6, u"1行選択(&L)", u"ｶｰｿﾙのある行を選択します", "Ctrl+L", "",
-               Ask<&C::HasText>, [](C& c) { c.Edit(6); }},
+    CommandRow{TopMenu::Edit, u"", "Edit", 5, u"すべて選択(&A)", 1027, "Ctrl+A", "edit-select-all",
+               Ask<&C::HasText>, [](C& c) { c.Edit(5); }},
+    CommandRow{TopMenu::Edit, u"", "Edit", 6, u"1行選択(&L)", 1028, "Ctrl+L", "", Ask<&C::HasText>,
+               [](C& c) { c.Edit(6); }},
     Separator(TopMenu::Edit),
-    CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 0, u"ｲﾝﾃﾞﾝﾄ ﾚﾍﾞﾙ +1\tTab",
-               u"選択した行を1段字下げします", "", "format-indent-more", kWritable,
-               [](C& c) { c.IndentMore(); }},
-    CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 1, u"ｲﾝﾃﾞﾝﾄ ﾚﾍﾞﾙ -1\tCtrl+Bksp",
-               u"選択した行の字下げを1段戻します", "", "format-indent-less", Ask<&C::HasSelectionToCut>,
-               [](C& c) { c.IndentLess(); }},
+    CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 0, u"ｲﾝﾃﾞﾝﾄ ﾚﾍﾞﾙ +1\tTab", 1029, "",
+               "format-indent-more", kWritable, [](C& c) { c.IndentMore(); }},
+    CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 1, u"ｲﾝﾃﾞﾝﾄ ﾚﾍﾞﾙ -1\tCtrl+Bksp", 1030, "",
+               "format-indent-less", Ask<&C::HasSelectionToCut>, [](C& c) { c.IndentLess(); }},
 };
 
 }  // namespace kestri::rows

@@ -11,16 +11,8 @@ inline constexpr std::u16string_view kNewMenu = u"種類を選んで新規作成
 
 template <std::int16_t Kind>
 constexpr CommandRow NewRow(std::u16string_view caption) {
-  return {TopMenu::File,
-          kNewMenu,
-          "MenFileMs",
-          Kind,
-          caption,
-          u"この種類の新しい文書を作ります",
-          "",
-          "document-new",
-          kAlways,
-          [](C& c) { c.New(Kind); }};
+  return {TopMenu::File, kNewMenu, "MenFileMs",    Kind,    caption,
+          1001,          "",       "document-new", kAlways, [](C& c) { c.New(Kind); }};
 }
 
 inline constexpr std::array kNewRows = {
@@ -41,7 +33,7 @@ inline constexpr std::array kNewRows = {
     NewRow<11>(u"ﾕｰｻﾞｰ定義型...(&U)"),
 };
 
-inline constexpr std::u16string_view kHistoryMenu = u"最近使用したﾌｧｲﾙを開く(&R)";
+inline constexpr std::u16string_view kHistoryMenu = u"最近使用したﾌｧｲﾙを開く";
 
 template <int Index>
 constexpr CommandRow HistoryRow() {
@@ -50,7 +42,7 @@ constexpr CommandRow HistoryRow() {
           "OpenFileReg",
           Index,
           u"履歴",
-          u"最近使用したﾌｧｲﾙを開きます",
+          1008,
           "",
           "",
           kAlways,
@@ -69,42 +61,45 @@ inline constexpr auto kHistoryRows = HistoryRows(std::make_integer_sequence<int,
 
 inline constexpr std::array kHistoryEndRows = {
     Separator(TopMenu::File, kHistoryMenu),
-    CommandRow{TopMenu::File, kHistoryMenu, "OpenFileReg", 23, u"履歴をすべて消す(&C)",
-               u"最近使用したﾌｧｲﾙの一覧を空にします", "", "edit-clear", kAlways,
-               [](C& c) { c.ClearHistory(); }},
+    CommandRow{TopMenu::File, kHistoryMenu, "OpenFileReg", 21, u"その他の最近使用したﾌｧｲﾙを開く(&L)...", 1009,
+               "", "document-open-recent", kAlways, [](C& c) { c.OpenOtherRecentFile(); }},
+    Separator(TopMenu::File, kHistoryMenu),
+    CommandRow{TopMenu::File, kHistoryMenu, "OpenFileReg", 23, u"履歴をすべて消す(&C)", 1010, "",
+               "edit-clear", kAlways, [](C& c) { c.ClearHistory(); }},
 };
 
 inline constexpr std::array kFileStartRows = {
-    CommandRow{TopMenu::File, u"", "MenFileM", 0, u"新規作成(&N)", u"HTML型の新しい文書を作ります", "Ctrl+N",
-               "document-new", kAlways, [](C& c) { c.New(2); }},
+    CommandRow{TopMenu::File, u"", "MenFileM", 0, u"新規作成(&N)", 1000, "Ctrl+N", "document-new", kAlways,
+               [](C& c) { c.New(2); }},
 };
 
 inline constexpr std::array kFileOpenRows = {
-    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 0, u"白紙の新しいｳｨﾝﾄﾞｳを開く(&W)",
-               u"もう1つ Kestrile を起動します", "Ctrl+Shift+N", "window-new", kAlways,
-               [](C& c) { c.OpenBlankWindow(); }},
+    CommandRow{TopMenu::File, u"", "MenFileM", 8, u"新規作成の選択(&L)...", 1002, "", "", kAlways,
+               [](C& c) { c.ChooseNew(); }},
+    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 0, u"白紙の新しいｳｨﾝﾄﾞｳを開く(&W)", 1003, "Ctrl+Shift+N",
+               "window-new", kAlways, [](C& c) { c.OpenBlankWindow(); }},
     Separator(TopMenu::File),
-    CommandRow{TopMenu::File, u"", "MenFileM", 1, u"開く(&O)...", u"ﾌｧｲﾙを選んで開きます", "Ctrl+O",
-               "document-open", kAlways, [](C& c) { c.Open(); }},
-    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 1, u"新しいｳｨﾝﾄﾞｳで開く(&E)...",
-               u"ﾌｧｲﾙを選んで別のｳｨﾝﾄﾞｳで開きます", "", "", kAlways, [](C& c) { c.OpenInNewWindow(); }},
-    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 2, u"HTMLに変換して開く(&T)...",
-               u"ﾃｷｽﾄﾌｧｲﾙをHTMLに変換して開きます", "", "", kAlways,
+    CommandRow{TopMenu::File, u"", "MenFileM", 1, u"開く(&O)...", 1005, "Ctrl+O", "document-open", kAlways,
+               [](C& c) { c.Open(); }},
+    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 1, u"新しいｳｨﾝﾄﾞｳで開く(&E)...", 1006, "", "", kAlways,
+               [](C& c) { c.OpenInNewWindow(); }},
+    CommandRow{TopMenu::File, u"", "MenFileOpenEx", 2, u"HTMLに変換して開く(&T)...", 1007, "", "", kAlways,
                [](C& c) { c.Window().ShowTextToHtml(); }},
-    Separator(TopMenu::File),
-    CommandRow{TopMenu::File, u"", "MenFileM", 3, u"上書き保存(&S)", u"現在のﾌｧｲﾙに上書きします", "Ctrl+S",
-               "document-save", kAlways, [](C& c) { c.Save(); }},
-    CommandRow{TopMenu::File, u"", "MenFileM", 4, u"名前を付けて保存(&A)...", u"別の名前で保存します",
-               "Ctrl+Shift+S", "document-save-as", kAlways, [](C& c) { c.SaveAs(); }},
 };
 
 inline constexpr std::array kFileEndRows = {
     Separator(TopMenu::File),
-    CommandRow{TopMenu::File, u"", "MenFileM", 6, u"ｶﾚﾝﾄﾌｫﾙﾀﾞを開く(&F)", u"文書のあるﾌｫﾙﾀﾞを開きます", "",
-               "folder-open", kAlways, [](C& c) { c.OpenCurrentFolder(); }},
+    CommandRow{TopMenu::File, u"", "MenFileM", 3, u"上書き保存(&S)", 1012, "Ctrl+S", "document-save", kAlways,
+               [](C& c) { c.Save(); }},
+    CommandRow{TopMenu::File, u"", "MenFileM", 4, u"名前を付けて保存(&A)...", 1013, "Ctrl+Shift+S",
+               "document-save-as", kAlways, [](C& c) { c.SaveAs(); }},
     Separator(TopMenu::File),
-    CommandRow{TopMenu::File, u"", "MenFileM", 8, u"終了(&X)", u"Kestrile を終了します", "Ctrl+Q",
-               "application-exit", kAlways, [](C& c) { c.Exit(); }},
+    CommandRow{TopMenu::File, u"", "MenFileM", 6, u"ｶﾚﾝﾄﾌｫﾙﾀﾞを開く(&F)", 1015, "", "folder-open", kAlways,
+               [](C& c) { c.OpenCurrentFolder(); }},
+    NotBuilt(TopMenu::File, u"", "MenFileM", 9, u"印刷(&P)...", 1016, "document-print"),
+    Separator(TopMenu::File),
+    CommandRow{TopMenu::File, u"", "MenFileM", 10, u"終了(&X)", 1018, "Ctrl+Q", "application-exit", kAlways,
+               [](C& c) { c.Exit(); }},
 };
 
 }  // namespace kestri::rows

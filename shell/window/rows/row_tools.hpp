@@ -25,7 +25,13 @@ inline std::u16string MenuText(std::u16string_view caption) {
 }
 
 constexpr CommandRow Separator(TopMenu menu, std::u16string_view submenu = u"") {
-  return {menu, submenu, "", 0, u"-", u"", "", "", kNever, nullptr};
+  return {menu, submenu, "", 0, u"-", 0, "", "", kNever, nullptr};
+}
+
+// A command whose subsystem is not part of this build: it is seen and cannot be chosen.
+constexpr CommandRow NotBuilt(TopMenu menu, std::u16string_view submenu, std::string_view array, int index,
+                              std::u16string_view caption, int hint, std::string_view icon) {
+  return {menu, submenu, array, index, caption, hint, "", icon, kNever, [](C&) {}};
 }
 
 }  // namespace kestri::rows

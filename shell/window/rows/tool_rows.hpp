@@ -1,4 +1,4 @@
-// Rows of the tool menu: the bar of insertions and the save slots.
+// Rows of the tool menu: runs, outside programs, the small tools, save slots and templates.
 #pragma once
 
 #include <utility>
@@ -7,8 +7,11 @@
 
 namespace kestri::rows {
 
-inline constexpr std::u16string_view kSaveSlotMenu = u"一時保存のﾃﾞｰﾀを作成する(&W)";
-inline constexpr std::u16string_view kLoadSlotMenu = u"一時保存のﾃﾞｰﾀを読み込む(&R)";
+inline constexpr std::u16string_view kProgramMenu = u"外部ﾌﾟﾛｸﾞﾗﾑ(&G)";
+inline constexpr std::u16string_view kSlotSaveMenu = u"一時保存(&W)\tAlt+↑";
+inline constexpr std::u16string_view kSaveSlotMenu = u"一時保存のﾃﾞｰﾀを作成する";
+inline constexpr std::u16string_view kLoadSlotMenu = u"一時保存のﾃﾞｰﾀを読み込む";
+inline constexpr std::u16string_view kTemplateMenu = u"ﾃﾝﾌﾟﾚｰﾄの編集(&T)";
 inline constexpr std::u16string_view kSlotMenu = u"ｾｰﾌﾞｽﾛｯﾄの変更(&S)";
 
 inline constexpr std::array<std::string_view, SaveSlots::kCount> kSlotKeys = {
@@ -21,7 +24,7 @@ constexpr CommandRow SaveSlotRow() {
           "SaveSlot",
           Number,
           u"ｽﾛｯﾄ",
-          u"文書の写しをこのｽﾛｯﾄに残します",
+          1065,
           "",
           "",
           kAlways,
@@ -37,7 +40,7 @@ constexpr CommandRow LoadSlotRow() {
           "LoadSlot",
           Number,
           u"ｽﾛｯﾄ",
-          u"このｽﾛｯﾄの写しを文書に読み込みます",
+          1066,
           "",
           "",
           [](const C& c) { return c.Slots().SlotSaveEdit()[Number].filled; },
@@ -53,7 +56,7 @@ constexpr CommandRow SlotRow() {
           "Slot",
           Number,
           u"ｽﾛｯﾄ",
-          u"ﾃﾞﾌｫﾙﾄｽﾛｯﾄを変更します",
+          1067,
           kSlotKeys[Number],
           "",
           kAlways,
@@ -69,17 +72,74 @@ constexpr std::array<CommandRow, 3 * sizeof...(N)> SlotRows(std::integer_sequenc
 
 inline constexpr auto kSlotRows = SlotRows(std::make_integer_sequence<int, SaveSlots::kCount>());
 
+template <int Index>
+constexpr CommandRow ExternalProgramRow() {
+  return {TopMenu::Tool,
+          kProgramMenu,
+          "MenOPg",
+          Index,
+          u"外部ﾂｰﾙ",
+          1061,
+          "",
+          "",
+          [](const C& c) { return c.Programs().Registered(Index); },
+          [](C& c) { c.Programs().MenOPg(Index); },
+          nullptr,
+          [](const C& c) { return MenuText(c.Programs().Caption(Index)); }};
+}
+
+template <int Kind>
+constexpr CommandRow TemplateRow(std::u16string_view caption) {
+  return {TopMenu::Tool,
+          kTemplateMenu,
+          "TmpLEdit",
+          Kind,
+          caption,
+          1068,
+          "",
+          "",
+          [](const C& c) { return c.HasTemplate(Kind); },
+          [](C& c) { c.EditTemplate(Kind); }};
+}
+
+inline constexpr std::array kTemplateRows = {TemplateRow<1>(u"ﾃｷｽﾄ型 (*.txt)(&1)"),
+                                             TemplateRow<2>(u"HTML型 (*.htm)(&2)"),
+                                             TemplateRow<3>(u"HTML型 詳細設定済み (*.htm)(&3)"),
+                                             TemplateRow<4>(u"CSS型 (*.css)(&4)"),
+                                             TemplateRow<13>(u"ReadMe型 (*.txt)(&R)"),
+                                             TemplateRow<14>(u"AsciiArt下書き型 (*.aat)(&A)")};
+
 inline constexpr std::array kToolStartRows = {
-    CommandRow{TopMenu::Tool, u"", "MenTool", 0, u"MenuBar(&M)",
-               u"特殊文字・色・ﾌｫﾝﾄを挿入するﾊﾞｰを表示します", "", "", kAlways,
-               [](C& c) { c.Window().ShowInsertBar(); }},
+    NotBuilt(TopMenu::Tool, u"", "MenHTMLEdit", 0, u"関連付け実行 [完全]", 1059, "kestrile-run"),
+    NotBuilt(TopMenu::Tool, u"", "MenHTMLEdit", 1, u"関連付け実行 [ﾃｽﾄ]", 1059, "kestrile-test-run"),
+    NotBuilt(TopMenu::Tool, u"", "MenHTMLEdit", 2, u"WYSIWYGｴﾃﾞｨﾀ起動 [完全]", 1059, ""),
+    NotBuilt(TopMenu::Tool, u"", "MenHTMLEdit", 3, u"WYSIWYGｴﾃﾞｨﾀ起動 [ﾃｽﾄ]", 1059, ""),
+    NotBuilt(TopMenu::Tool, u"", "mnuCmpl", 0, u"単一ﾌｧｲﾙｺﾝﾊﾟｲﾙ(&L)", 1060, ""),
+    ExternalProgramRow<0>(),
+    ExternalProgramRow<1>(),
+    ExternalProgramRow<2>(),
+    Separator(TopMenu::Tool, kProgramMenu),
+    CommandRow{TopMenu::Tool, kProgramMenu, "MenOPgWord", 0, u"ﾜｰﾄﾞﾊﾟｯﾄﾞ", 1061, "",
+               "accessories-text-editor", kAlways, [](C& c) { c.Programs().MenOPgWord(); }},
+    CommandRow{TopMenu::Tool, kProgramMenu, "MenOPgPaint", 0, u"ﾍﾟｲﾝﾄ", 1061, "", "applications-graphics",
+               kAlways, [](C& c) { c.Programs().MenOPgPaint(); }},
     Separator(TopMenu::Tool),
-    CommandRow{TopMenu::Tool, u"", "DefSlotSave", 0, u"ﾃﾞﾌｫﾙﾄSave", u"文書の写しをﾃﾞﾌｫﾙﾄｽﾛｯﾄに残します",
-               "Ctrl+Shift+Up", "", kAlways, [](C& c) { c.Slots().DefSlotSave(); }, nullptr,
+    CommandRow{TopMenu::Tool, u"", "MenTool", 0, u"MenuBar(&M)", 1062, "", "kestrile-special-characters",
+               kAlways, [](C& c) { c.Window().ShowInsertBar(); }},
+    NotBuilt(TopMenu::Tool, u"", "MenTool", 1, u"MiniWebBrowser", 1062, ""),
+    NotBuilt(TopMenu::Tool, u"", "MenTool", 2, u"AsciiArtPalette", 1062, ""),
+    NotBuilt(TopMenu::Tool, u"", "MenTool", 3, u"SubTextWindow", 1062, ""),
+    Separator(TopMenu::Tool),
+    NotBuilt(TopMenu::Tool, u"", "menURLmove", 0, u"URLの抽出(&U)...", 1063, ""),
+    NotBuilt(TopMenu::Tool, u"", "mnuCnvImg", 0, u"ｲﾒｰｼﾞ変換(&I)...", 1064, ""),
+    Separator(TopMenu::Tool),
+    CommandRow{TopMenu::Tool, kSlotSaveMenu, "DefSlotSave", 0, u"ﾃﾞﾌｫﾙﾄSave", 1065, "Ctrl+Shift+Up", "",
+               kAlways, [](C& c) { c.Slots().DefSlotSave(); }, nullptr,
                [](const C& c) { return c.DefaultSlotCaption(u"ﾃﾞﾌｫﾙﾄSave"); }},
-    CommandRow{TopMenu::Tool, u"", "DefSlotLoad", 0, u"ﾃﾞﾌｫﾙﾄLoad", u"ﾃﾞﾌｫﾙﾄｽﾛｯﾄの写しを文書に読み込みます",
-               "Ctrl+Shift+Down", "", kAlways, [](C& c) { c.Slots().DefSlotLoad(); }, nullptr,
+    CommandRow{TopMenu::Tool, kSlotSaveMenu, "DefSlotLoad", 0, u"ﾃﾞﾌｫﾙﾄLoad", 1066, "Ctrl+Shift+Down", "",
+               kAlways, [](C& c) { c.Slots().DefSlotLoad(); }, nullptr,
                [](const C& c) { return c.DefaultSlotCaption(u"ﾃﾞﾌｫﾙﾄLoad"); }},
+    Separator(TopMenu::Tool, kSlotSaveMenu),
 };
 
 }  // namespace kestri::rows

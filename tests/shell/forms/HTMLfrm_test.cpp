@@ -196,11 +196,7 @@ TEST_F(HTMLfrmTest, DamagedSettingsAreNoticed) {
 
 TEST_F(HTMLfrmTest, MenusShowTheStatesOnlyWhileOpenSoThatNoShortcutIsLost) {
   desk.Open();
-  QMenu* edit = nullptr;
-  for (QAction* top : desk.window->menuBar()->actions()) {
-    if (top->text() == QStringLiteral("編集(&E)")) edit = top->menu();
-  }
-  ASSERT_NE(edit, nullptr);
+  QMenu* edit = &desk.window->Commands().Menu(TopMenu::Edit);
   QAction* undo = desk.window->Commands().Action(*FindCommand("MenUNDO", 0));
   Q_EMIT edit->aboutToShow();
   EXPECT_FALSE(undo->isEnabled());
@@ -217,7 +213,7 @@ TEST_F(HTMLfrmTest, TheHistoryMenuShowsTheFilesInUseAndOpensThem) {
   desk.window->OpenDocument(desk.folder.Text(u"b.txt"));
   const CommandRow& newest = *FindCommand("OpenFileReg", 0);
   QAction* action = desk.window->Commands().Action(newest);
-  QMenu* menu = qobject_cast<QMenu*>(action->associatedObjects().constFirst());
+  QMenu* menu = &desk.window->Commands().Submenu(u"最近使用したﾌｧｲﾙを開く");
   Q_EMIT menu->aboutToShow();
   EXPECT_TRUE(action->text().endsWith(QStringLiteral("b.txt"))) << action->text().toStdString();
   EXPECT_TRUE(action->text().startsWith(QStringLiteral("&0 ： ")));
@@ -245,9 +241,9 @@ TEST_F(HTMLfrmTest, TheViewMenuSwitchesBarsAndGuideLinesAndShowsTheirMarks) {
   EXPECT_EQ(desk.common->GetINI(u"Kestri", u"Bar", u"ToolBarShow0", u""), u"0");
   desk.Run("MenV", 0);
   EXPECT_TRUE(bar->isVisible());
-  desk.Run("MenV", 2);
+  desk.Run("MenV", 4);
   EXPECT_EQ(desk.state.gLine, 1);
-  EXPECT_TRUE(FindCommand("MenV", 2)->checked != nullptr);
+  EXPECT_TRUE(desk.window->Commands().Checked(*FindCommand("MenV", 4)));
 }
 
 TEST_F(HTMLfrmTest, TransformsOfTheEditMenuChangeTheSelectionInOneStep) {

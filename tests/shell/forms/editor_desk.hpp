@@ -13,6 +13,7 @@
 #include "tests/fakes/temporary_folder.hpp"
 #include "tests/fakes/view_keys.hpp"
 #include "tests/fakes/visible_caret.hpp"
+#include "tests/fakes/window_ports.hpp"
 
 namespace kestri::fakes {
 
@@ -58,6 +59,9 @@ class EditorDesk {
                                                          .clipboard = clipboard,
                                                          .fallbacks = fallbacks,
                                                          .instances = instances,
+                                                         .effects = effects,
+                                                         .inputMethodTools = inputMethodTools,
+                                                         .progress = progress,
                                                          .versionText = QStringLiteral("version")},
                                        settings.value());
     window->show();
@@ -86,6 +90,9 @@ class EditorDesk {
   FakeInputBox inputBox;
   NoFallbacks fallbacks;
   RunningInstances instances;
+  FakeUiEffects effects;
+  FakeInputMethodTools inputMethodTools;
+  LoadProgress* progress = nullptr;
   ApplicationState state;
   std::unique_ptr<ClassCommon> common;
   std::unique_ptr<HTMLfrm> window;

@@ -11,9 +11,7 @@ namespace {
 
 class CommandLineTest : public testing::Test {
  protected:
-  CommandLineTest() {
-    folder_.Write("a b.htm", "x");
-  }
+  CommandLineTest() { folder_.Write("a b.htm", "x"); }
 
   StartMode Mode(std::u16string_view line) { return ModeOf(line, common_); }
   std::u16string Path(const char* name) { return FromUtf8(folder_.Path(name)); }
@@ -37,10 +35,37 @@ TEST_F(CommandLineTest, NoArgumentIsNoMode) {
   EXPECT_EQ(Mode(Line({})), StartMode::None);
 }
 
-TEST_F(CommandLineTest, APathWithBlanksIsOnePathQuotedOrNot) {
+TEST_F(CommandLineTest, ArgumentsAreJoinedByOneBlankAndKeptAsTheyStand) {
   EXPECT_EQ(Line({"/x/a", "b.htm"}), u"/x/a b.htm");
-  EXPECT_EQ(Line({"\"/x/a b.htm\""}), u"/x/a b.htm");
-  EXPECT_EQ(Line({"  /x/a.htm "}), u"/x/a.htm");
+  EXPECT_EQ(Line({"/SL ", ""}), u"/SL  ");
+  EXPECT_EQ(Line({" \"/x/a b.htm\" "}), u" \"/x/a b.htm\" ");
+}
+
+TEST_F(CommandLineTest, APathWithBlanksIsOnePathQuotedOrNot) {
+  EXPECT_EQ(WithoutQuotes(Line({"/x/a", "b.htm"})), u"/x/a b.htm");
+  EXPECT_EQ(WithoutQuotes(Line({"\"/x/a b.htm\""})), u"/x/a b.htm");
+  EXPECT_EQ(WithoutQuotes(Line({"  /x/a.htm "})), u"/x/a.htm");
+  EXPECT_EQ(WithoutQuotes(u"\"/x/a.htm"), u"\"/x/a.htm");
+}
+
+TEST_F(CommandLineTest, WindowSwitchesAreFourCharactersInUpperCase) {
+  const std::pair<const char16_t*, WindowSwitch> rows[] = {
+      {u"/SL x", WindowSwitch::ImageSlides}, {u"/CI x", WindowSwitch::ImageConversion},
+      {u"/CL x", WindowSwitch::Compile},     {u"/DA x", WindowSwitch::Unpack},
+      {u"/AC x", WindowSwitch::Pack},        {u"/AC ", WindowSwitch::Pack},
+      {u"/AC", WindowSwitch::None},          {u"/ac x", WindowSwitch::None},
+      {u" /AC x", WindowSwitch::None},       {u"/AC\tx", WindowSwitch::None},
+      {u"/ACx x", WindowSwitch::None},       {u"", WindowSwitch::None},
+  };
+  for (const auto& [line, expected] : rows)
+    EXPECT_EQ(WindowSwitchOf(line, common_), expected) << ToUtf8(line);
+}
+
+TEST_F(CommandLineTest, TheArgumentOfASwitchIsEverythingBehindIt) {
+  EXPECT_EQ(SwitchArgument(u"/SL /x/a b"), u"/x/a b");
+  EXPECT_EQ(SwitchArgument(u"/SL  \"/x/a b\" "), u"/x/a b");
+  EXPECT_EQ(SwitchArgument(u"/SL "), u"");
+  EXPECT_EQ(SwitchArgument(u"/S"), u"");
 }
 
 TEST_F(CommandLineTest, AnExistingAbsolutePathIsAFileThoughItBeginsWithASlash) {
@@ -56,7 +81,7 @@ TEST_F(CommandLineTest, SwitchesWorkInAnyCaseButOnlyAlone) {
   EXPECT_EQ(Mode(u"/SN"), StartMode::NewDocumentWindow);
   EXPECT_EQ(Mode(u"/sn"), StartMode::NewDocumentWindow);
   EXPECT_EQ(Mode(u"/sf"), StartMode::FileList);
-  EXPECT_EQ(Mode(Line({"/SN "})), StartMode::NewDocumentWindow);
+  EXPECT_EQ(Mode(WithoutQuotes(Line({"/SN "}))), StartMode::NewDocumentWindow);
   EXPECT_EQ(Mode(u"/SN x"), StartMode::UnknownSwitch);
   EXPECT_EQ(Mode(u"/SL"), StartMode::UnknownSwitch);
   EXPECT_EQ(Mode(u"/sl C:\\x"), StartMode::UnknownSwitch);

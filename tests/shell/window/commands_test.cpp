@@ -10,6 +10,7 @@
 
 #include "shell/common/code_page.hpp"
 #include "shell/common/text.hpp"
+#include "shell/window/menu_hints.hpp"
 
 namespace kestri {
 namespace {
@@ -24,7 +25,8 @@ TEST(CommandRows, EveryCommandHasCaptionHintAndFunction) {
   for (const CommandRow& row : CommandRows()) {
     if (row.IsSeparator()) continue;
     EXPECT_FALSE(row.caption.empty());
-    EXPECT_FALSE(row.hint.empty()) << ToUtf8(row.caption);
+    EXPECT_GE(row.hint, kFirstMenuHint) << ToUtf8(row.caption);
+    EXPECT_LE(row.hint, kLastMenuHint) << ToUtf8(row.caption);
     EXPECT_NE(row.run, nullptr) << ToUtf8(row.caption);
     EXPECT_NE(row.enabled, nullptr) << ToUtf8(row.caption);
     EXPECT_TRUE(code_page::RoundTrips(row.caption)) << ToUtf8(row.caption);
@@ -79,16 +81,26 @@ TEST(CommandRows, TheKeysThatAuthorsKnowAreThere) {
   }
 }
 
-TEST(ToolRows, EveryButtonAndDropDownEntryRunsACommand) {
-  for (const ToolRow& row : ToolRows()) {
-    if (row.key.empty()) continue;
-    const CommandRow* command = FindCommand(row.array, row.index);
-    ASSERT_NE(command, nullptr) << row.key;
-    EXPECT_FALSE(command->icon.empty()) << row.key;
-    for (const ToolRow::Entry& entry : row.entries) {
-      EXPECT_TRUE(entry.caption == u"-" || FindCommand(entry.array, entry.index) != nullptr) << entry.key;
-    }
+// Every menu array of the window by its name, with the number of its items.
+TEST(CommandRows, EveryMenuArrayIsThere) {
+  const std::map<std::string_view, int> expected = {
+      {"MenFileM", 8},       {"OpenFileReg", 22}, {"MenFileOpenEx", 3}, {"MenFileMs", 15},
+      {"MenUNDO", 2},        {"Edit", 6},         {"HighEdit", 9},      {"KakkoMenu", 12},
+      {"KakkoFSet", 2},      {"LineCode", 3},     {"ColorEdit", 1},     {"FilePathEdit", 1},
+      {"StyleSEdit", 1},     {"mnuCnvImg", 1},    {"menFabStr", 1},     {"menURLmove", 1},
+      {"SearEdit", 7},       {"CEdit", 1},        {"HTMLEdit", 5},      {"MenHTMLEdit", 4},
+      {"HTMLEditHINTS", 1},  {"TmpLEdit", 6},     {"DefSlotSave", 1},   {"SaveSlot", 10},
+      {"LoadSlot", 10},      {"DefSlotLoad", 1},  {"Slot", 10},         {"mnuCmpl", 1},
+      {"MenTool", 4},        {"MenOPg", 3},       {"MenOPgWord", 1},    {"MenOPgPaint", 1},
+      {"Setting", 1},        {"SettingT", 1},     {"MenV", 7},          {"MenV2", 1},
+      {"MenV3", 2},          {"MenH", 1},         {"MenH2", 4},         {"MenIMES", 8},
+      {"MenIMERe", 1},       {"MenIMEsub", 3},    {"Day", 9},           {"WinShow", 1},
+      {"mnuCallUserInTo", 1}};
+  std::map<std::string_view, int> counts;
+  for (const CommandRow& row : CommandRows()) {
+    if (!row.IsSeparator()) ++counts[row.array];
   }
+  EXPECT_EQ(counts, expected);
 }
 
 }  // namespace

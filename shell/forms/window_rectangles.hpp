@@ -1,0 +1,28 @@
+// Twips of the settings and pixels of the screen.
+#pragma once
+
+#include <QRect>
+#include <cstdint>
+
+#include "shell/window/window_placement.hpp"
+
+namespace kestri {
+
+inline constexpr int kTwipsPerPixel = 15;
+
+inline int ToPixels(std::int32_t twips) {
+  return twips / kTwipsPerPixel;
+}
+
+inline QRect ToPixels(const WindowRectangle& twips) {
+  return {ToPixels(twips.left), ToPixels(twips.top), ToPixels(twips.width), ToPixels(twips.height)};
+}
+
+inline WindowRectangle ToTwips(const QRect& pixels) {
+  return {.left = pixels.left() * kTwipsPerPixel,
+          .top = pixels.top() * kTwipsPerPixel,
+          .width = pixels.width() * kTwipsPerPixel,
+          .height = pixels.height() * kTwipsPerPixel};
+}
+
+}  // namespace kestri
