@@ -29,7 +29,7 @@ dictionary FabStr.lib <<'END'
 [FabStr]
 FabStr000=お気に入り
 END
-printf '[Setting]\r\nValFabStr=1\r\n' >"$work/Kestrile/Kestri.ini"
+settings ValFabStr=1
 
 page="$work/road.htm"
 printf '\r\n' >"$page"

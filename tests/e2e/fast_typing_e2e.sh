@@ -15,7 +15,6 @@ type_into() { # file, milliseconds between keys
   await grep -q left "$1"
   sleep 0.2
   press alt+F4
-  ended() { ! kill -0 "$editor" 2>/dev/null; }
   await ended
 }
 

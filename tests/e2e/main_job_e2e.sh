@@ -8,7 +8,7 @@ page="$work/ページ.htm"
 printf '<HTML>\r\n<BODY>\r\n%s\r\n\r\n</BODY>\r\n</HTML>\r\n' "$(printf 'こんにちは。' | iconv -t cp932)" >"$page"
 cp "$page" "$work/before.htm"
 mkdir "$work/backup"
-printf '[Path]\r\nUserBackUp=%s\r\n' "$work/backup" >"$work/Kestrile/Kestri.ini"
+settings '[Path]' "UserBackUp=$work/backup"
 
 start_editor "$page"
 await title_has 'ページ.htm'
@@ -37,6 +37,5 @@ case "$(basename "${backups[0]}")" in
 esac
 
 press alt+F4
-ended() { ! kill -0 "$editor" 2>/dev/null; }
 await ended
 echo "ok"

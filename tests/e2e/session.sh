@@ -22,6 +22,7 @@ await() {
     sleep 0.05
   done
   echo "gave up waiting for: $*" >&2
+  screenshot "$root/build/e2e-failure.png" || true
   return 1
 }
 
@@ -55,6 +56,13 @@ private_home() {
   mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
   chmod 700 "$XDG_RUNTIME_DIR"
   cp -a "$stage" "$work/Kestrile"
+  settings
+}
+
+# The copy's settings: a start without the warning and the splash, room beside the editors of other sessions, the
+# given lines of [Setting], and further sections behind them.
+settings() {
+  printf '%s\r\n' '[RunArt]' 'RunArt=1' '[Setting]' 'TopWinShow=0' 'AppECount=99' "$@" >"$work/Kestrile/Kestri.ini"
 }
 
 # Start the editor on the given arguments and wait for its window to hold the focus.
@@ -67,6 +75,14 @@ start_editor() {
   xdotool windowactivate --sync "$window"
   await focused
 }
+
+# Wait for a dialog by its title and give it the keyboard.
+dialog() {
+  await xdotool search --onlyvisible --name "$1"
+  dialog=$(xdotool search --onlyvisible --name "$1" | tail -n 1)
+  xdotool windowactivate --sync "$dialog"
+}
+ended() { ! kill -0 "$editor" 2>/dev/null; }
 
 focused() { [ "$(xdotool getwindowfocus)" = "$window" ]; }
 title() { xdotool getwindowname "$window"; }

@@ -6,7 +6,6 @@ private_home
 
 window_named() { xdotool search --onlyvisible --name "$1"; }
 run() { "$work/Kestrile/Kestri" "$@" >"$work/editor.log" 2>&1 & editor=$!; processes+=("$editor"); }
-ended() { ! kill -0 "$editor" 2>/dev/null; }
 answer() { # window name, key
   await window_named "$1"
   xdotool windowactivate --sync "$(window_named "$1" | tail -n 1)"
@@ -14,13 +13,13 @@ answer() { # window name, key
 }
 
 # Damaged settings: the box, the end, the file as it was.
-printf '[Setting]\r\nFontSize=large\r\n' >"$work/Kestrile/Kestri.ini"
+settings FontSize=large
 cp "$work/Kestrile/Kestri.ini" "$work/before.ini"
 run
 answer '起動ｴﾗｰ Kestrile' Return
 await ended
 same_bytes "$work/Kestrile/Kestri.ini" "$work/before.ini"
-rm "$work/Kestrile/Kestri.ini"
+settings
 
 # A switch that is none: its box, and the editor stays open.
 run /XX

@@ -1,0 +1,79 @@
+// The editor's window with a page, the popup and each menu.
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolButton>
+
+#include "tests/gallery/gallery_desk.hpp"
+#include "tests/gallery/layout_checks.hpp"
+#include "tests/gallery/windows.hpp"
+
+namespace kestri::gallery {
+namespace {
+
+QString Numbered(const char* words, int number) {
+  return QStringLiteral("%1%2").arg(QString::fromLatin1(words)).arg(number, 2, 10, QLatin1Char('0'));
+}
+
+// The menu and, each by itself, the menus inside it.
+void TakeMenu(Gallery& gallery, const QString& name, QWidget& window, QMenu& menu, QPoint at) {
+  menu.popup(at);
+  gallery.Take(name, window);
+  gallery.Tell(name, ClashingMnemonics(menu));
+  const QList<QAction*> actions = menu.actions();
+  for (int i = 0; i < actions.size(); ++i) {
+    QMenu* inner = actions[i]->menu();
+    if (inner == nullptr) continue;
+    const QPoint beside = menu.mapToGlobal(menu.actionGeometry(actions[i]).topRight());
+    TakeMenu(gallery, name + QLatin1Char('-') + Numbered("", i), window, *inner, beside);
+    inner->hide();
+  }
+  menu.hide();
+}
+
+void TakeMenus(Gallery& gallery, QMainWindow& window) {
+  QMenuBar* bar = window.menuBar();
+  gallery.Tell(QStringLiteral("HTMLfrm-menubar"), ClashingMnemonics(*bar));
+  for (int i = 0; i < bar->actions().size(); ++i) {
+    QAction* top = bar->actions()[i];
+    const QPoint below = bar->mapToGlobal(bar->actionGeometry(top).bottomLeft());
+    TakeMenu(gallery, Numbered("HTMLfrm-menu", i + 1), window, *top->menu(), below);
+  }
+}
+
+void TakeToolMenus(Gallery& gallery, QMainWindow& window) {
+  int number = 0;
+  for (QToolButton* button : window.findChildren<QToolButton*>()) {
+    if (button->menu() == nullptr || !button->isVisible()) continue;
+    const QPoint below = button->mapToGlobal(button->rect().bottomLeft());
+    TakeMenu(gallery, Numbered("HTMLfrm-tool", ++number), window, *button->menu(), below);
+  }
+}
+
+void TakePopup(Gallery& gallery, GalleryDesk& desk) {
+  desk.PutCaretBehind(u"三分咲きです。");
+  desk.Press(u"<");
+  gallery.Take(QStringLiteral("InToTAGFrm-tags"), *desk.window);
+  desk.Press(u"a{Enter} ");
+  gallery.Take(QStringLiteral("InToTAGFrm-attributes"), *desk.window);
+  desk.Press(u"target{Enter}=");
+  gallery.Take(QStringLiteral("InToTAGFrm-values"), *desk.window);
+  desk.Press(u"{Esc}");
+}
+
+}  // namespace
+
+void TakeEditor(Gallery& gallery) {
+  GalleryDesk desk;
+  desk.PutCaretBehind(u"駅から");
+  gallery.Take(QStringLiteral("HTMLfrm"), *desk.window);
+  TakeMenus(gallery, *desk.window);
+  TakeToolMenus(gallery, *desk.window);
+  desk.Run("Edit", 5);
+  gallery.Take(QStringLiteral("HTMLfrm-selected"), *desk.window);
+  TakePopup(gallery, desk);
+  desk.Run("MenFileM", 3);
+  desk.window->resize(420, 300);
+  gallery.Take(QStringLiteral("HTMLfrm-small"), *desk.window);
+}
+
+}  // namespace kestri::gallery
