@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QTimer>
 
+#include "platform/qt/dialog_owner.hpp"
 #include "platform/qt/japanese_labels.hpp"
 #include "shell/common/pixel_rect.hpp"
 
@@ -45,6 +46,7 @@ class StandingFree {
 };
 
 int ExecuteFree(QDialog& dialog, QWidget* owner) {
+  LetWindowBePlaced(owner);
   const StandingFree standing(dialog, owner);
   QTimer::singleShot(0, &dialog, [&dialog] { BringToFront(dialog); });
   return dialog.exec();

@@ -65,7 +65,7 @@ void NameUnderIcon::paint(QPainter* painter, const QStyleOptionViewItem& given,
     place.setTop(place.top() + option.fontMetrics.lineSpacing());
   };
   for (const QString& line : NameLines(option.text, option.font, place.width())) drawLine(line);
-  painter->setOpacity(kFaint);
+  if (!selected) painter->setOpacity(kFaint);
   drawLine(option.fontMetrics.elidedText(index.data(kSecondLine).toString(), Qt::ElideMiddle, place.width()));
   painter->restore();
 }

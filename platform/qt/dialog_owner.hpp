@@ -1,15 +1,15 @@
 // The window over which a dialog stands.
 #pragma once
 
-#include <QApplication>
 #include <QWidget>
 
 namespace kestri {
 
-// The open modal window if there is one, else the owner.
-inline QWidget* DialogOwner(QWidget* owner) {
-  QWidget* modal = QApplication::activeModalWidget();
-  return modal != nullptr ? modal : owner;
-}
+// Lets a window that was just shown come to its place on the screen, so that a dialog opens over it. At most
+// half a second; keys and clicks wait. Null and hidden windows need nothing.
+void LetWindowBePlaced(QWidget* window);
+
+// The open modal window if there is one, else the owner, in its place.
+QWidget* DialogOwner(QWidget* owner);
 
 }  // namespace kestri

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_message_box.hpp"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <vector>

@@ -3,6 +3,7 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QtMath>
 #include <QToolTip>
 #include <algorithm>
 
@@ -32,7 +33,7 @@ StatusPane::StatusPane(const QString& name, Qt::Alignment alignment, QWidget* pa
 }
 
 int StatusPane::WidthOf(const QString& text) const {
-  return fontMetrics().horizontalAdvance(text) + 2 * kPadding;
+  return qCeil(QFontMetricsF(font()).horizontalAdvance(text)) + 2 * kPadding;
 }
 
 QSize StatusPane::sizeHint() const {
@@ -50,8 +51,9 @@ void StatusPane::SetText(const QString& text) {
 void StatusPane::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect room = rect().adjusted(kPadding, 0, -kPadding, 0);
-  painter.drawText(room, static_cast<int>(alignment_ | Qt::TextSingleLine),
-                   fontMetrics().elidedText(text_, Qt::ElideRight, room.width()));
+  const bool cut = WidthOf(text_) > width();
+  painter.drawText(room, static_cast<int>(alignment_ | Qt::TextSingleLine | Qt::TextDontClip),
+                   cut ? fontMetrics().elidedText(text_, Qt::ElideRight, room.width()) : text_);
 }
 
 bool StatusPane::event(QEvent* event) {

@@ -78,7 +78,6 @@ constexpr std::array kToolRows = {
     Gap(),
     ToolRow{"Tool", u"ﾂｰﾙ", "", "", 0, kToolEntries, ToolKind::ToolOfDocument},
     ToolRow{"Search", u"検索・置換のﾌﾟﾛﾊﾟﾃｨ", "edit-find", "SearEdit", 3, kSearchEntries},
-    Gap(),
     ToolRow{"Run", u"完全実行", "kestrile-run", "MenHTMLEdit", 0, kRunEntries},
     ToolRow{"TestRun", u"ﾃｽﾄ実行", "kestrile-test-run", "MenHTMLEdit", 1},
     Gap(),
