@@ -3,8 +3,8 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QtMath>
 #include <QToolTip>
+#include <QtMath>
 #include <algorithm>
 
 namespace kestri {

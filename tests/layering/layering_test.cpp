@@ -37,14 +37,16 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
      {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "browse", "ui"}},
     {"search/forms",
      {"platform", "platform/qt", "shell/common", "document", "document/edit_control", "search", "ui"}},
-    {"shell/window", {"platform", "shell/common", "document", "document/edit_control", "run", "search", "tags"}},
+    {"shell/window",
+     {"platform", "shell/common", "document", "document/edit_control", "run", "search", "tags"}},
     {"shell/startup", {"platform", "shell/common"}},
     {"shell/startup/forms",
      {"platform", "platform/posix", "platform/qt", "shell/common", "shell/window", "shell/startup",
       "shell/forms", "document", "ui"}},
     {"shell/forms",
      {"platform", "platform/qt", "shell/common", "shell/window", "browse", "browse/forms", "document",
-      "document/edit_control", "document/forms", "run", "search", "search/forms", "tags", "tags/forms", "ui"}},
+      "document/edit_control", "document/forms", "run", "search", "search/forms", "tags", "tags/forms",
+      "ui"}},
 };
 
 const std::set<std::string> kToolkitLayers = {"platform/qt",  "ui",          "document/forms",
