@@ -20,14 +20,26 @@ bool IsTrue(std::u16string_view value) {
   return UCase(Trim(value)) == u"TRUE" || ToLong(value).value_or(0) != 0;
 }
 
+// The head of the text that is at most size bytes of UTF-8, whole characters.
+std::u16string Shortened(std::u16string_view text, std::size_t size) {
+  while (!text.empty() && ToUtf8(text).size() > size) {
+    const bool isPair =
+        text.size() > 1 && (text.back() & 0xFC00) == 0xDC00 && (text[text.size() - 2] & 0xFC00) == 0xD800;
+    text.remove_suffix(isPair ? 2 : 1);
+  }
+  return std::u16string(text);
+}
+
 }  // namespace
 
 std::u16string BackupName(const ClassCommon& common, std::u16string_view folder, std::u16string_view path) {
-  std::u16string name = common.CFile(path, 1);
-  name += u"[" + FormatTime(common.PortSet().clock.Now(), "%Y%m%d_%H%M%S_") + common.RandomDigits() + u"]";
+  constexpr std::size_t kLongestName = 255;  // bytes
+  std::u16string tail =
+      u"[" + FormatTime(common.PortSet().clock.Now(), "%Y%m%d_%H%M%S_") + common.RandomDigits() + u"]";
   const bool hasExtension = common.CFile(path, 0).find(u'.') != std::u16string::npos;
-  if (hasExtension) name += u"." + common.CFile(path, 2);
-  return common.Join(common.AppPath(folder), name);
+  if (hasExtension) tail += Shortened(u"." + common.CFile(path, 2), kLongestName - tail.size());
+  const std::u16string name = Shortened(common.CFile(path, 1), kLongestName - ToUtf8(tail).size());
+  return common.Join(common.AppPath(folder), name + tail);
 }
 
 bool Backup::Make(std::u16string_view path) const {

@@ -11,7 +11,7 @@
 
 namespace kestri {
 
-// folder/name[yyyymmdd_hhmmss_digits].extension
+// folder/name[yyyymmdd_hhmmss_digits].extension, a long name cut so that the whole is a possible file name
 std::u16string BackupName(const ClassCommon& common, std::u16string_view folder, std::u16string_view path);
 
 class Backup {

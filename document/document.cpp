@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "document/document_template.hpp"
 #include "document/settings_values.hpp"
 #include "shell/common/text.hpp"
 
@@ -94,7 +95,7 @@ std::u16string Document::TabsToBlanks(std::u16string text) const {
 
 bool Document::SetDocumentText(std::u16string text, KeepModified keep) {
   try {
-    return FillControl(TabsToBlanks(std::move(text)), keep);
+    return FillControl(state_.tabsKept != 0 ? std::move(text) : TabsToBlanks(std::move(text)), keep);
   } catch (const std::exception&) {
     return false;
   }
@@ -136,6 +137,7 @@ void Document::ApplyOpenedFile(std::u16string_view openedPath, ReadOnly readOnly
   const std::u16string path(openedPath);
   NameDocument(path);
   state_.fileKind = common_.FileTypeReturn(path);
+  state_.tabsKept = IsTemplate(common_, path) ? -1 : 0;
   window_.SetStatusPane(4, KindPane(state_.fileKind));
   window_.SetWindowIcon(Named() ? common_.GetFileIcon(path, 1) : std::u16string());
   state_.modified = 0;

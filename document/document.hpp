@@ -114,6 +114,7 @@ class Document {
   bool AskAboutLoss(const std::u16string& path, const LossyCharacter& added);
   bool Write(const std::u16string& path);
   bool WriteText(const std::u16string& path) const;
+  bool TellNotSaved(const std::u16string& path);  // false
   void FinishSaving(const std::u16string& path);
   std::u16string LineEndOnDisk() const;
 

@@ -13,6 +13,10 @@ std::u16string WithCrLf(std::u16string text) {
 
 }  // namespace
 
+bool IsTemplate(const ClassCommon& common, std::u16string_view path) {
+  return UCase(common.CFile(path, 2)) == u"FMTDAT";
+}
+
 std::u16string TemplatePath(const ClassCommon& common, int kind) {
   const std::u16string folder = common.Join(common.ProgramFolder(), u"DataFiles");
   return common.Join(folder, u"NewData" + ToText(kind) + u".fmtdat");

@@ -8,6 +8,9 @@
 
 namespace kestri {
 
+// By the name: a file that new documents may begin with.
+bool IsTemplate(const ClassCommon& common, std::u16string_view path);
+
 std::u16string TemplatePath(const ClassCommon& common, int kind);
 bool TemplateExists(const ClassCommon& common, int kind);  // a folder of that name is none
 

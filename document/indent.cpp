@@ -1,6 +1,7 @@
 #include "document/indent.hpp"
 
 #include "shell/common/text.hpp"
+#include "shell/common/unit_search.hpp"
 
 namespace kestri {
 namespace {
@@ -9,12 +10,16 @@ bool IsIndent(char16_t unit) {
   return unit == u' ' || unit == kIdeographicSpace || unit == u'\t';
 }
 
-// Every line's head, the first one's too, has a line end in front of it while the block is worked on.
-std::u16string ReplaceLineHeads(std::u16string_view block, std::u16string_view head,
-                                std::u16string_view with) {
-  std::u16string lines(kCrLf);
-  lines += block;
-  return Replace(lines, head, with).substr(kCrLf.size());
+// Calls work with each line of the block, its line end included.
+template <typename Work>
+void ForEachLine(std::u16string_view block, Work work) {
+  for (std::size_t from = 0; from <= block.size();) {
+    const std::size_t end = unit_search::Find(block, kCrLf, from);
+    const std::size_t next = end == block.npos ? block.size() : end + kCrLf.size();
+    work(block.substr(from, next - from));
+    if (end == block.npos) return;
+    from = next;
+  }
 }
 
 }  // namespace
@@ -25,11 +30,22 @@ Position IndentEnd(const EditControl& control, Position from, Position end) {
 }
 
 std::u16string IndentBlock(std::u16string_view block, std::u16string_view level) {
-  return ReplaceLineHeads(block, kCrLf, std::u16string(kCrLf).append(level));
+  std::size_t lines = 0;
+  ForEachLine(block, [&lines](std::u16string_view) { ++lines; });
+  std::u16string result;
+  result.reserve(block.size() + lines * level.size());
+  ForEachLine(block, [&](std::u16string_view line) { result.append(level).append(line); });
+  return result;
 }
 
 std::u16string UnindentBlock(std::u16string_view block, std::u16string_view level) {
-  return ReplaceLineHeads(block, std::u16string(kCrLf).append(level), kCrLf);
+  std::u16string result;
+  result.reserve(block.size());
+  ForEachLine(block, [&](std::u16string_view line) {
+    if (!level.empty() && line.starts_with(level)) line.remove_prefix(level.size());
+    result.append(line);
+  });
+  return result;
 }
 
 }  // namespace kestri

@@ -96,6 +96,13 @@ void InstanceLog::Unregister(Others others) const {
     content.DeleteKey(kFiles, FileKey(state_.windowNumber));
     content.DeleteKey(kHandles, HandleKey(state_.windowNumber));
   });
+  RemoveWhenEmpty();
+}
+
+// Of several that close together none may see itself as the last.
+void InstanceLog::RemoveWhenEmpty() const {
+  const auto lock = common_.PortSet().files.Lock(Path());
+  if (common_.Profiles().Load(Path()).Section(kHandles).empty()) common_.KillFile(Path());
 }
 
 // An instance that started since the caller counted may have registered; it cannot while the lock is held.

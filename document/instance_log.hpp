@@ -51,6 +51,7 @@ class InstanceLog {
  private:
   std::int64_t OwnHandle() const;
   bool RemoveWhenLast() const;
+  void RemoveWhenEmpty() const;
   void Update(const std::function<void(ProfileContent&)>& change) const;
 
   const ClassCommon& common_;

@@ -1,6 +1,11 @@
 #include "document/lossy_characters.hpp"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 #include "shell/common/code_page.hpp"
+#include "shell/common/unit_search.hpp"
 
 namespace kestri {
 namespace {
@@ -52,13 +57,31 @@ class Collector {
   std::vector<LossyCharacter> found_;
 };
 
+// A file with this in it counts as no text any more.
+std::optional<LossyCharacter> FirstEndOfFileMark(const EditControl& control) {
+  const char16_t mark = kEndOfFileMark;
+  const std::u16string_view first = control.FirstPiece();
+  std::size_t at = unit_search::Find(first, {&mark, 1});
+  if (at == unit_search::npos) {
+    at = unit_search::Find(control.SecondPiece(), {&mark, 1});
+    if (at == unit_search::npos) return std::nullopt;
+    at += first.size();
+  }
+  return LossyCharacter{mark, static_cast<Position>(at)};
+}
+
 }  // namespace
 
 std::vector<LossyCharacter> LossyCharacters(const EditControl& control) {
   Collector collector(control);
   collector.Take(control.FirstPiece(), 0);
   collector.Take(control.SecondPiece(), control.FirstPiece().size());
-  return collector.Finish();
+  std::vector<LossyCharacter> found = collector.Finish();
+  if (const auto mark = FirstEndOfFileMark(control)) {
+    const auto behind = [&mark](const LossyCharacter& one) { return one.position > mark->position; };
+    found.insert(std::find_if(found.begin(), found.end(), behind), *mark);
+  }
+  return found;
 }
 
 }  // namespace kestri

@@ -125,6 +125,7 @@ class MainText {
   void ShiftBlock(char16_t key);
   void SmartHome();
 
+  bool ConvertsTabs() const;
   bool NavigationAllowed() const;
   bool RefusedByAsciiArt();
   void OpenPopup(std::int32_t mode, char16_t key);

@@ -29,7 +29,7 @@ MainText::Drop MainText::OLEDropText(std::u16string_view text) {
     return Drop::Refused;
   }
   host_.FocusText();
-  return Guarded([&] { ReplaceSelHwnd(WithCrLf(text), false, true); }) ? Drop::Done : Drop::Refused;
+  return Guarded([&] { ReplaceSelHwnd(FromOtherProgram(text), false, true); }) ? Drop::Done : Drop::Refused;
 }
 
 MainText::Drop MainText::OLEDropFiles(const std::vector<std::u16string>& paths) {

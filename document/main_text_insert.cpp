@@ -9,8 +9,12 @@ constexpr std::int32_t kLargeText = 32000;  // bytes of the code page
 
 }  // namespace
 
+bool MainText::ConvertsTabs() const {
+  return subclassed_ && state_.tabSpaceCount != 0 && state_.tabsKept == 0;
+}
+
 std::u16string MainText::ExpandTabs(std::u16string_view text) const {
-  if (!subclassed_ || state_.tabSpaceCount == 0) return std::u16string(text);
+  if (!ConvertsTabs()) return std::u16string(text);
   return Replace(text, u"\t", String(4 * state_.tabSpaceCount, u' '));
 }
 
@@ -73,7 +77,7 @@ void MainText::PasteAt(Position at, std::u16string_view text) {
 
 // Into the selection unless a position is given.
 void MainText::Paste(std::u16string_view fromOutside, std::optional<Position> at) {
-  const std::u16string text = WithCrLf(fromOutside);
+  const std::u16string text = FromOtherProgram(fromOutside);
   if (text.empty() || !AcceptsLargePaste(text)) return;
   if (at) EM_SETSEL(*at, *at);
   EM_REPLACESEL(ExpandTabs(text));
@@ -84,7 +88,7 @@ void MainText::CommitInput(std::u16string_view text) {
   keyGate_ = kGateClosed;
   if (control_.Locked() || text.empty()) return;
   Guarded([&] {
-    EM_REPLACESEL(WithCrLf(text));
+    EM_REPLACESEL(FromOtherProgram(text));
     control_.EM_SCROLLCARET();
   });
 }

@@ -101,7 +101,7 @@ char16_t MainText::PressTabWithoutSelection() {
     host_.MessageToStatusBar(kNoTabInAsciiArt);
     return kSwallowed;
   }
-  if (!subclassed_ || state_.tabSpaceCount == 0) return kTab;
+  if (!ConvertsTabs()) return kTab;
   const EditScope oneStep(control_);
   for (int i = 0; i < 4 * state_.tabSpaceCount; ++i) SendChar(u' ', -1);
   return kSwallowed;

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "document/document.hpp"
+#include "document/document_template.hpp"
 #include "document/settings_values.hpp"
 #include "shell/common/code_page.hpp"
 #include "shell/common/text.hpp"
@@ -78,9 +79,11 @@ Document::OpenResult Document::Read(Opening& opening) {
   if (common_.IsFileAttribute(opening.longPath, kAttributeDirectory)) return OpenResult::Folder;
   // Two bytes give at least one character: no need to read what the control cannot hold.
   if (opening.onDisk && opening.onDisk->size / 2 > textLimit_ + 1) return OpenResult::TextRefused;
-  if (!common_.ReadTextFile(opening.longPath, opening.text, -1)) return KindOfNoText(opening.longPath);
+  const ClassCommon::TextRead read = common_.ReadWholeText(opening.longPath, opening.text, textLimit_);
+  if (read == ClassCommon::TextRead::NoText) return KindOfNoText(opening.longPath);
+  if (read == ClassCommon::TextRead::TooLong) return OpenResult::TextRefused;
   opening.unreadable = HoldsUnreadableBytes(opening.longPath, opening.text);
-  opening.text = TabsToBlanks(std::move(opening.text));
+  if (!IsTemplate(common_, opening.longPath)) opening.text = TabsToBlanks(std::move(opening.text));
   opening.lineEnd = ConvertLineEnds(opening.text);
   return OpenResult::Loaded;
 }
@@ -125,7 +128,7 @@ void Document::FinishOpening(const Opening& opening) {
   constexpr std::u16string_view kReplaced = u"ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました";
   ApplyOpenedFile(opening.path, opening.readOnly, opening.lineEnd,
                   opening.unreadable ? kReplaced : std::u16string_view());
-  onDisk_ = opening.onDisk;
+  if (Named()) onDisk_ = opening.onDisk;  // it may have vanished while a question stood
   history_.RegisterHistory(opening.path);
   unreadableBytes_ = opening.unreadable;
 }

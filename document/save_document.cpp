@@ -27,6 +27,7 @@ bool Document::OverwriteSave() {
   if (!Named() || !common_.PathExists(path)) return SaveAsDialog(u"");
   if (TellOverwriteRefusal(path)) return false;
   if (state_.modified == 0) return true;
+  if (common_.IsFileAttribute(path, kAttributeDirectory)) return TellNotSaved(path) || SaveAsDialog(u"");
   if (!AgreesToOverwrite(path) || !backup_.Make(path)) return false;
   return Write(path) || SaveAsDialog(u"");
 }
@@ -59,6 +60,10 @@ bool Document::Write(const std::u16string& path) {
     FinishSaving(path);
     return true;
   }
+  return TellNotSaved(path);
+}
+
+bool Document::TellNotSaved(const std::u16string& path) {
   WriteLog(kNotSaved, path);
   std::u16string text(kNotSaved);
   for (const auto* cause :

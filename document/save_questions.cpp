@@ -19,6 +19,11 @@ bool SameState(const FileStatus& left, const FileStatus& right) {
          left.modifiedNanoseconds == right.modifiedNanoseconds && left.inode == right.inode;
 }
 
+std::u16string ShownCharacter(const EditControl& control, const LossyCharacter& one) {
+  if (one.character == kEndOfFileMark) return u"U+001A";
+  return control.Slice(one.position, one.character < 0x10000 ? 1 : 2);
+}
+
 }  // namespace
 
 bool Document::AgreesToOverwrite(const std::u16string& path) {
@@ -64,7 +69,7 @@ bool Document::AskAboutLoss(const std::u16string& path, const LossyCharacter& ad
   std::u16string text = QuotedName(common_, path);
   text.append(kCrLf).append(u"ｼﾌﾄJISで保存できない文字が含まれています");
   text.append(u" (").append(ToText(control_.LineOf(added.position) + 1)).append(u"行目 「");
-  text.append(control_.Slice(added.position, added.character < 0x10000 ? 1 : 2)).append(u"」)");
+  text.append(ShownCharacter(control_, added)).append(u"」)");
   text.append(kCrLf).append(u"保存すると その文字は「?」などに置き換わります");
   text.append(kCrLf).append(u"このまま保存しますか？");
   return Ask(u"保存の確認 ", text, MessageIcon::Exclamation, MessageButtons::YesNo, 2) == MessageAnswer::Yes;

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "document/settings_values.hpp"
+#include "shell/common/code_page.hpp"
 #include "shell/common/text.hpp"
 
 namespace kestri {
@@ -118,7 +119,8 @@ bool TextToHtml::WriteTarget(std::u16string_view sourcePath, const TextToHtmlOpt
   std::u16string text;
   if (!common_.ReadTextFile(sourcePath, text, -1)) return false;
   RecogniseLineEnds(text, common_);
-  return common_.WriteTextFile(TargetPath(), ConvertTextToHtml(text, options));
+  const std::u16string page = ConvertTextToHtml(text, options);
+  return code_page::RoundTrips(page) && common_.WriteTextFile(TargetPath(), page);
 }
 
 bool TextToHtml::OpenTarget() {

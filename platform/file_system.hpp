@@ -38,8 +38,9 @@ class FileLock {
 
 class FileSystem {
  public:
-  using ByteConsumer = std::function<bool(std::string_view)>;           // false stops the read
-  using ByteProducer = std::function<bool(const ByteConsumer& write)>;  // calls write until done
+  using ByteConsumer = std::function<bool(std::string_view)>;  // false stops the read
+  using ByteProducer =
+      std::function<bool(const ByteConsumer& write)>;  // calls write until done; may be asked twice
 
   virtual ~FileSystem() = default;
 

@@ -10,7 +10,9 @@ class Shell {
  public:
   virtual ~Shell() = default;
 
-  virtual bool Open(std::u16string_view path, std::u16string_view parameters) = 0;  // program, file or address
+  // With parameters: starts the program. Without: opens a file or an address with the desktop's choice for its
+  // kind, and never runs the file itself, whatever its mode.
+  virtual bool Open(std::u16string_view path, std::u16string_view parameters) = 0;
   virtual bool Explore(std::u16string_view folder) = 0;
   virtual bool Properties(std::u16string_view path) = 0;
   virtual std::u16string TypeName(std::u16string_view path) = 0;   // words for the user; empty when unknown

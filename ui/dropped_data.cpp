@@ -44,7 +44,7 @@ std::vector<std::u16string> LocalFiles(const QMimeData& data) {
 }
 
 QString DesktopText(std::u16string_view text) {
-  return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  return WithLf(text);
 }
 
 }  // namespace kestri

@@ -255,6 +255,7 @@ EditView::ScrollState EditView::ScrollPosition() {
 
 void EditView::SetScrollPosition(ScrollState state) {
   pending_.scrollCaret = false;  // where the view stands is told, not where the caret is
+  pending_.startOver = false;
   Flush();
   UpdateScrollRanges();
   if (state.x > 0) NoteWidth(static_cast<double>(state.x) + viewport()->width() - kTextMargin);

@@ -27,12 +27,53 @@ TextChange Joined(const TextChange& first, Position at, Position removed, Positi
   return joined;
 }
 
+// The replacements that take a step back: position, units removed, text inserted.
+template <typename Visit>
+void ForEachBack(const UndoStep& step, Visit visit) {
+  const std::u16string_view units = step.text;
+  std::size_t end = units.size();
+  for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change) {
+    const auto removed = static_cast<std::size_t>(change->removed);
+    end -= removed + static_cast<std::size_t>(change->inserted);
+    visit(change->at, change->inserted, units.substr(end, removed));
+  }
+}
+
+template <typename Visit>
+void ForEachForward(const UndoStep& step, Visit visit) {
+  const std::u16string_view units = step.text;
+  std::size_t begin = 0;
+  for (const UndoChange& change : step.changes) {
+    begin += static_cast<std::size_t>(change.removed);
+    const auto inserted = static_cast<std::size_t>(change.inserted);
+    visit(change.at, change.removed, units.substr(begin, inserted));
+    begin += inserted;
+  }
+}
+
 }  // namespace
 
+// What a row of replacements needs before the first of them may touch the text.
+struct EditControl::Impl::Room {
+  Position growth = 0;
+  Position mostGrowth = 0;
+  std::size_t starts = 0;
+
+  void Replace(Position removed, std::u16string_view inserted) {
+    growth += Size(inserted) - removed;
+    mostGrowth = std::max(mostGrowth, growth);
+    starts += LineIndex::MostStarts(inserted);
+  }
+};
+
 void EditControl::Impl::SetText(std::u16string value) {
-  replaced = TextChange{.at = 0, .removed = text.Length(), .inserted = Size(value)};
-  text.Assign(std::move(value));
-  lines.Rebuild(text);
+  GapBuffer newText;
+  LineIndex newLines;
+  newText.Assign(std::move(value));
+  newLines.Rebuild(newText);
+  replaced = TextChange{.at = 0, .removed = text.Length(), .inserted = newText.Length()};
+  text = std::move(newText);
+  lines = std::move(newLines);
   undo.Clear();
   selection = {};
   movement.ForgetColumn();
@@ -68,12 +109,17 @@ void EditControl::Impl::ReplaceText(Position at, Position removed, std::u16strin
 
 void EditControl::Impl::Replace(Selection range, std::u16string_view inserted, EditKind kind, Undo mode) {
   movement.ForgetColumn();
-  if (mode == Undo::Forget) undo.Clear();
   const Position at = range.Start();
   const Position removed = range.End() - at;
-  if (removed == 0 && inserted.empty()) return;
-  if (inserted.size() > kLargestText - static_cast<std::size_t>(text.Length() - removed)) return;
+  const bool fits = inserted.size() <= kLargestText - static_cast<std::size_t>(text.Length() - removed);
+  if (!fits || (removed == 0 && inserted.empty())) {
+    if (mode == Undo::Forget) undo.Clear();
+    return;
+  }
   if (text.Owns(inserted)) return Replace(range, std::u16string(inserted), kind, mode);
+  Room room;
+  room.Replace(removed, inserted);
+  Reserve(room);
   const Position caret = CaretAfter(at, removed, inserted);
   const UndoStack::Edit edit{.kind = kind,
                              .at = at,
@@ -81,7 +127,11 @@ void EditControl::Impl::Replace(Selection range, std::u16string_view inserted, E
                              .inserted = inserted,
                              .before = kind == EditKind::Erasing ? selection : range,
                              .after = {caret, caret}};
-  if (mode == Undo::Record) undo.Record(edit);
+  if (mode == Undo::Record) {
+    undo.Record(edit);  // the last that may find no memory
+  } else {
+    undo.Clear();
+  }
   ReplaceText(at, removed, inserted);
   selection = edit.after;
 }
@@ -149,15 +199,17 @@ void EditControl::Impl::MoveByKey(EditKey key, KeyModifiers modifiers) {
 
 bool EditControl::Impl::UndoStep() {
   movement.ForgetColumn();
-  const kestri::UndoStep* step = undo.Undo();
+  const kestri::UndoStep* step = undo.NextUndo();
   if (step) StepBack(*step);
+  undo.Undo();
   return step != nullptr;
 }
 
 bool EditControl::Impl::RedoStep() {
   movement.ForgetColumn();
-  const kestri::UndoStep* step = undo.Redo();
+  const kestri::UndoStep* step = undo.NextRedo();
   if (step) StepForward(*step);
+  undo.Redo();
   return step != nullptr;
 }
 
@@ -168,26 +220,32 @@ bool EditControl::Impl::CheckInvariants() const {
          Snapped(selection.anchor, selection.caret) == selection;
 }
 
+void EditControl::Impl::Reserve(const Room& room) {
+  text.EnsureGap(static_cast<std::size_t>(room.mostGrowth));
+  lines.Reserve(room.starts);
+}
+
 void EditControl::Impl::StepBack(const kestri::UndoStep& step) {
-  const std::u16string_view units = step.text;
-  std::size_t end = units.size();
-  for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change) {
-    const auto removed = static_cast<std::size_t>(change->removed);
-    end -= removed + static_cast<std::size_t>(change->inserted);
-    ReplaceText(change->at, change->inserted, units.substr(end, removed));
-  }
+  Room room;
+  ForEachBack(step, [&room](Position, Position removed, std::u16string_view inserted) {
+    room.Replace(removed, inserted);
+  });
+  Reserve(room);
+  ForEachBack(step, [this](Position at, Position removed, std::u16string_view inserted) {
+    ReplaceText(at, removed, inserted);
+  });
   selection = step.before;
 }
 
 void EditControl::Impl::StepForward(const kestri::UndoStep& step) {
-  const std::u16string_view units = step.text;
-  std::size_t begin = 0;
-  for (const UndoChange& change : step.changes) {
-    begin += static_cast<std::size_t>(change.removed);
-    const auto inserted = static_cast<std::size_t>(change.inserted);
-    ReplaceText(change.at, change.removed, units.substr(begin, inserted));
-    begin += inserted;
-  }
+  Room room;
+  ForEachForward(step, [&room](Position, Position removed, std::u16string_view inserted) {
+    room.Replace(removed, inserted);
+  });
+  Reserve(room);
+  ForEachForward(step, [this](Position at, Position removed, std::u16string_view inserted) {
+    ReplaceText(at, removed, inserted);
+  });
   selection = step.after;
 }
 

@@ -43,6 +43,9 @@ struct EditControl::Impl {
   }
 
  private:
+  struct Room;
+  void Reserve(const Room& room);
+  // Throws nothing where there is room. What may throw comes before, so that a failed edit changes nothing.
   void ReplaceText(Position at, Position removed, std::u16string_view inserted);
   void Backspace();
   // The selection when there is one, else from the caret to the position.

@@ -41,13 +41,14 @@ std::u16string GapBuffer::Slice(Position begin, Position length) const {
 }
 
 void GapBuffer::Replace(Position at, Position removed, std::u16string_view inserted) {
+  const auto gone = static_cast<std::size_t>(removed);
+  EnsureGap(inserted.size() - std::min(inserted.size(), gone));
   const auto begin = static_cast<std::size_t>(at);
-  const auto end = begin + static_cast<std::size_t>(removed);
+  const auto end = begin + gone;
   const std::size_t meeting = std::clamp(gapBegin_, begin, end);
   MoveGap(static_cast<Position>(meeting));
   gapEnd_ += end - meeting;
   gapBegin_ = begin;
-  EnsureGap(inserted.size());
   std::u16string::traits_type::copy(data_.data() + gapBegin_, inserted.data(), inserted.size());
   gapBegin_ += inserted.size();
 }

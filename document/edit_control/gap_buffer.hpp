@@ -32,7 +32,8 @@ class GapBuffer {
   std::u16string Slice(Position begin, Position length) const;
 
   // Both are within the text; inserted does not point into this buffer. The gap then stands behind what was
-  // inserted.
+  // inserted. Throws nothing when the gap and what is removed leave room for it; otherwise it may, with the
+  // text as it was.
   void Replace(Position at, Position removed, std::u16string_view inserted);
 
   void MoveGap(Position to);

@@ -51,19 +51,25 @@ Position* WriteStarts(std::u16string_view text, Position origin, Position* out) 
   return out;
 }
 
-// Starts that a replacement made: those of line ends with at least one inserted unit in them, or joined at
-// its place.
-std::vector<Position> StartsAround(const GapBuffer& text, Position at, Position inserted) {
-  const Position begin = std::max(at - 1, 0);
-  const auto [first, second] = text.Range(begin, at + inserted + 1 - begin);
-  std::vector<Position> starts((first.size() + second.size()) / 2 + 2);
-  Position* end = WriteStarts(first, begin, starts.data());
+// Writes the starts that a replacement made: those of line ends with at least one inserted unit in them, or
+// joined at its place. The pieces hold one unit more on either side.
+Position* WriteStartsAround(const GapBuffer::Pieces& around, Position begin, Position* out) {
+  const auto& [first, second] = around;
+  out = WriteStarts(first, begin, out);
   const Position border = begin + static_cast<Position>(first.size());
   if (!first.empty() && !second.empty() && first.back() == u'\r' && second.front() == u'\n')
-    *end++ = border + 1;
-  end = WriteStarts(second, border, end);
-  starts.resize(static_cast<std::size_t>(end - starts.data()));
-  return starts;
+    *out++ = border + 1;
+  return WriteStarts(second, border, out);
+}
+
+std::size_t CountLineFeeds(std::u16string_view text) {
+  std::size_t count = 0;
+  std::size_t i = 0;
+  for (; i + kBlock <= text.size(); i += kBlock) {
+    count += static_cast<std::size_t>(std::popcount(LineFeeds(text.data() + i)));
+  }
+  return count + static_cast<std::size_t>(
+                     std::count(text.begin() + static_cast<std::ptrdiff_t>(i), text.end(), u'\n'));
 }
 
 }  // namespace
@@ -116,18 +122,26 @@ std::int32_t LineIndex::LineOf(Position position) const {
   return static_cast<std::int32_t>(FirstStartAfter(position));
 }
 
+std::size_t LineIndex::MostStarts(std::u16string_view inserted) {
+  constexpr std::size_t kBesides = 2;  // a line feed on either side
+  constexpr std::size_t kScratch = 1;  // behind the last start, see WriteStarts
+  return CountLineFeeds(inserted) + kBesides + kScratch;
+}
+
 void LineIndex::Replaced(const GapBuffer& text, Position at, Position removed, Position inserted) {
+  const Position around = std::max(at - 1, 0);
+  const GapBuffer::Pieces pieces = text.Range(around, at + inserted + 1 - around);
+  const std::size_t lineFeeds = CountLineFeeds(pieces.first) + CountLineFeeds(pieces.second);
+  EnsureGap(lineFeeds + 1);
   const std::size_t begin = FirstStartAfter(at);
   const std::size_t end = FirstStartAfter(at + removed + 1);
-  const auto added = StartsAround(text, at, inserted);
   MoveStep(end);
   step_ += inserted - removed;
-  if (begin == end && added.empty()) return;
+  if (begin == end && lineFeeds == 0) return;
   MoveGap(begin);
   gapEnd_ += end - begin;
-  EnsureGap(added.size());
-  std::copy(added.begin(), added.end(), starts_.begin() + static_cast<std::ptrdiff_t>(gapBegin_));
-  gapBegin_ += added.size();
+  const Position* last = WriteStartsAround(pieces, around, starts_.data() + gapBegin_);
+  gapBegin_ = static_cast<std::size_t>(last - starts_.data());
   stepIndex_ = gapBegin_;
 }
 

@@ -21,6 +21,12 @@ class LineIndex {
   }
   std::int32_t LineOf(Position position) const;
 
+  // Room for the starts that putting in the text can make.
+  static std::size_t MostStarts(std::u16string_view inserted);
+  // Replacements that make no more starts than this throw nothing. When there is no memory for them nothing
+  // has changed.
+  void Reserve(std::size_t starts) { EnsureGap(starts); }
+
   // Follows a replacement that the text has already seen.
   void Replaced(const GapBuffer& text, Position at, Position removed, Position inserted);
 

@@ -1,5 +1,8 @@
 #include "document/edit_control/undo_stack.hpp"
 
+#include <algorithm>
+#include <utility>
+
 #include "document/edit_control/text_boundaries.hpp"
 
 namespace kestri {
@@ -17,6 +20,11 @@ Position Size(const GapBuffer::Pieces& pieces) {
   return Size(pieces.first) + Size(pieces.second);
 }
 
+void MakeRoom(std::u16string& text, std::size_t units) {
+  if (text.capacity() - text.size() >= units) return;
+  text.reserve(text.empty() ? units : std::max(text.size() + units, 2 * text.capacity()));
+}
+
 // What erasing took away is selected again when it comes back; the caret is on the side where it was.
 Selection ErasedRange(const UndoStep& step) {
   Position length = 0;
@@ -29,8 +37,11 @@ Selection ErasedRange(const UndoStep& step) {
 }  // namespace
 
 void UndoStack::Record(const Edit& edit) {
-  if (!Joins(edit)) BeginStep(edit);
-  Append(edit);
+  if (Joins(edit)) {
+    Append(steps_.back(), edit);
+  } else {
+    BeginStep(edit);
+  }
   FollowRun(edit);
 }
 
@@ -53,24 +64,27 @@ bool UndoStack::JoinsErasing(const Edit& edit) const {
 }
 
 void UndoStack::BeginStep(const Edit& edit) {
-  steps_.resize(done_);
-  UndoStep& step = steps_.emplace_back();
-  done_ = steps_.size();
+  UndoStep step;
   step.kind = scopes_ > 0 ? EditKind::Single : edit.kind;
   step.before = scopes_ > 0 ? scopeBefore_.value_or(edit.before) : edit.before;
+  Append(step, edit);
+  // Where this takes undone steps away the new one has their place; otherwise it takes nothing away.
+  steps_.resize(done_);
+  steps_.push_back(std::move(step));
+  done_ = steps_.size();
   scopeHasStep_ = scopes_ > 0;
   runHasWord_ = false;
 }
 
-void UndoStack::Append(const Edit& edit) {
-  UndoStep& step = steps_.back();
-  step.after = edit.after;
+void UndoStack::Append(UndoStep& step, const Edit& edit) {
+  MakeRoom(step.text, edit.removed.first.size() + edit.removed.second.size() + edit.inserted.size());
   if (step.kind == EditKind::Typing && !step.changes.empty()) {
     step.changes.back().inserted += Size(edit.inserted);
   } else {
     step.changes.push_back({edit.at, Size(edit.removed), Size(edit.inserted)});
   }
   step.text.append(edit.removed.first).append(edit.removed.second).append(edit.inserted);
+  step.after = edit.after;
 }
 
 void UndoStack::FollowRun(const Edit& edit) {
@@ -103,12 +117,16 @@ void UndoStack::Clear() {
 
 const UndoStep* UndoStack::Undo() {
   CloseRun();
-  return CanUndo() ? &steps_[--done_] : nullptr;
+  const UndoStep* step = NextUndo();
+  if (step) --done_;
+  return step;
 }
 
 const UndoStep* UndoStack::Redo() {
   CloseRun();
-  return CanRedo() ? &steps_[done_++] : nullptr;
+  const UndoStep* step = NextRedo();
+  if (step) ++done_;
+  return step;
 }
 
 }  // namespace kestri

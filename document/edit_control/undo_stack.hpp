@@ -43,7 +43,7 @@ class UndoStack {
     Selection before;
     Selection after;
   };
-  void Record(const Edit& edit);
+  void Record(const Edit& edit);  // when it throws nothing has changed
 
   // What follows does not join what came before.
   void CloseRun() { runOpen_ = false; }
@@ -58,13 +58,16 @@ class UndoStack {
   // The step to apply, valid until the next Record or Clear; null when there is none.
   const UndoStep* Undo();
   const UndoStep* Redo();
+  // The same without taking it.
+  const UndoStep* NextUndo() const { return CanUndo() ? &steps_[done_ - 1] : nullptr; }
+  const UndoStep* NextRedo() const { return CanRedo() ? &steps_[done_] : nullptr; }
 
  private:
   bool Joins(const Edit& edit) const;
   bool JoinsTyping(const Edit& edit) const;
   bool JoinsErasing(const Edit& edit) const;
   void BeginStep(const Edit& edit);
-  void Append(const Edit& edit);
+  static void Append(UndoStep& step, const Edit& edit);
   void FollowRun(const Edit& edit);
 
   std::vector<UndoStep> steps_;

@@ -33,11 +33,13 @@ class EditSubFrm : public QWidget {
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // Esc closes
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildMenus();
   void AddRow(QMenu* menu, std::u16string_view caption, std::function<void()> insert);
   void AddDialog(QMenu* menu, std::u16string_view caption, std::u16string_view title, const AskText& ask);
+  void BackToText();
   void Restore();
   void Keep();
 

@@ -34,6 +34,11 @@ bool IsRefusal(int error) {
   return error == EACCES || error == EPERM || error == EROFS;
 }
 
+// A single file may be mounted at its place, as in a container; no other file gets there.
+bool IsMountPoint(int error) {
+  return error == EBUSY || error == EXDEV;
+}
+
 }  // namespace
 
 bool AtomicFile::Replace(const std::string& path, const FileSystem::ByteProducer& producer) {
@@ -47,7 +52,8 @@ bool AtomicFile::Replace(const std::string& path, const FileSystem::ByteProducer
   overwriteMayHelp_ = old != nullptr;
   if (old == nullptr || (old->st_nlink == 1 && !IsPinnedByFolder(*target, *old))) {
     if (auto staging = StageForRename(*target, old)) {
-      return Fill(*staging, producer) && RenameOver(*staging, *target);
+      if (!Fill(*staging, producer)) return false;
+      if (RenameOver(*staging, *target)) return true;
     }
   }
   if (!overwriteMayHelp_) return false;
@@ -102,7 +108,11 @@ bool AtomicFile::SyncContent(int file) {
 }
 
 bool AtomicFile::RenameOver(StagingFile& staging, const std::string& target) {
-  if (!staging.Close() || calls_.Rename(staging.Path(), target) != 0) return false;
+  const bool closed = staging.Close();
+  if (!closed || calls_.Rename(staging.Path(), target) != 0) {
+    overwriteMayHelp_ = overwriteMayHelp_ && closed && IsMountPoint(errno);
+    return false;
+  }
   staging.Release();
   // The new content already stands under the path, so a folder that cannot be synced is no failed save.
   if (durability_ == Durability::Synced) SyncFolder(FolderOf(target));

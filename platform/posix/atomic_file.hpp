@@ -1,8 +1,9 @@
 // Replacing a file's content without ever losing it.
 //
 // The new content goes to a hidden staging file in the same folder, is synced, and is renamed over the old
-// file. Where a rename would break something - the file has several hard links, its owner or mode cannot be
-// kept, its folder takes no new files - the content is first synced to a recovery copy named
+// file. Where a rename would break something or is refused - the file has several hard links, its owner or
+// mode cannot be kept, its folder takes no new files, the file is a mount point - the content is first synced
+// to a recovery copy named
 // "<name>.kestrile-recovery" (beside the file or, when the folder takes none, in the recovery folder) and
 // then written into the old file. A failure half way puts the old content back; a process killed half way
 // leaves the recovery copy with the whole new content.

@@ -14,7 +14,7 @@ std::u16string QtClipboard::Text() {
 
 // Other programs of the desktop expect LF, so CR LF leaves as LF; our own paste makes CR LF again.
 void QtClipboard::SetText(std::u16string_view text) {
-  QGuiApplication::clipboard()->setText(ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+  QGuiApplication::clipboard()->setText(WithLf(text));
 }
 
 }  // namespace kestri

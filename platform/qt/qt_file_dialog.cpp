@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/dialog_owner.hpp"
@@ -75,14 +76,20 @@ QStringList PatternsOf(const QString& nameFilter) {
   return nameFilter.mid(begin, nameFilter.lastIndexOf(u')') - begin).split(u' ', Qt::SkipEmptyParts);
 }
 
-// The name with the row's first extension behind it, unless it ends in one of the row's or the row takes any
+bool EndsInOneOf(const QString& path, const QStringList& patterns) {
+  return std::any_of(patterns.begin(), patterns.end(), [&path](const QString& pattern) {
+    return pattern.size() > 1 && path.endsWith(pattern.mid(1), Qt::CaseInsensitive);
+  });
+}
+
+// The name with the row's first extension behind it, unless it ends in one of any row's or the row takes any
 // name.
-QString WithExtension(const QString& path, const QString& nameFilter) {
+QString WithExtension(const QString& path, const QString& nameFilter, const QStringList& allRows) {
   const QStringList patterns = PatternsOf(nameFilter);
-  for (const QString& pattern : patterns) {
-    if (pattern == QLatin1String("*") || path.endsWith(pattern.mid(1), Qt::CaseInsensitive)) return path;
-  }
-  return patterns.isEmpty() ? path : path + patterns.constFirst().mid(1);
+  if (patterns.isEmpty() || patterns.contains(QStringLiteral("*"))) return path;
+  const bool known = std::any_of(allRows.begin(), allRows.end(),
+                                 [&path](const QString& row) { return EndsInOneOf(path, PatternsOf(row)); });
+  return known ? path : path + patterns.constFirst().mid(1);
 }
 
 bool MayReplace(QWidget& dialog, const QString& path) {
@@ -140,7 +147,7 @@ std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& r
   Prepare(dialog, request);
   while (auto answer = Answer(dialog)) {
     const QString row = dialog.nameFilters().value(answer->filterIndex - 1);
-    const QString path = WithExtension(ToQtPath(answer->fileName), row);
+    const QString path = WithExtension(ToQtPath(answer->fileName), row, dialog.nameFilters());
     if ((request.flags & kOverwritePrompt) != 0 && !MayReplace(dialog, path)) continue;
     answer->fileName = FromQtPath(path);
     return answer;

@@ -23,10 +23,6 @@ bool AskFileManager(const char* method, const QString& path) {
        QStringLiteral("array:string:") + uri, QStringLiteral("string:")});
 }
 
-bool IsProgram(const QFileInfo& file) {
-  return file.isFile() && file.isExecutable();
-}
-
 // The program of a .desktop file: the first word of its Exec line.
 QString ProgramOfDesktopEntry(const QString& name) {
   const QString file = QStandardPaths::locate(QStandardPaths::ApplicationsLocation, name);
@@ -67,9 +63,8 @@ QStringList WellKnownPrograms(const QString& mimeType) {
 }  // namespace
 
 bool QtShell::Open(std::u16string_view path, std::u16string_view parameters) {
-  const QString target = ToQtPath(path);
-  if (!parameters.empty() || IsProgram(QFileInfo(target))) return StartProgram(path, parameters);
-  return QProcess::startDetached(QStringLiteral("xdg-open"), {target});
+  if (!parameters.empty()) return StartProgram(path, parameters);
+  return QProcess::startDetached(QStringLiteral("xdg-open"), {ToQtPath(path)});
 }
 
 bool QtShell::Explore(std::u16string_view folder) {

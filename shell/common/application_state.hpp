@@ -31,6 +31,7 @@ struct ApplicationState {
 
   std::int16_t tabASeT = 1;
   std::int16_t tabSpaceCount = 1;
+  std::int16_t tabsKept = 0;  // -1 while a template is open: its last tab is the caret's mark
   std::int16_t htmlNAV = 1;
   std::int16_t htmlNAVkeyB = 0;
   std::int16_t htmlNAVkeyB_AUTO = 1;

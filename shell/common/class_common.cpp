@@ -11,6 +11,7 @@ ClassCommon::ClassCommon(Ports ports, PathStyle style)
   const auto last = executable.rfind(Separator());
   const bool hasFolder = last != std::u16string::npos;
   programFolder_ = hasFolder ? executable.substr(0, last) : std::u16string();
+  if (last == 0) programFolder_ = executable.substr(0, 1);
   exeName_ = hasFolder ? executable.substr(last + 1) : executable;
   if (const auto dot = exeName_.rfind(u'.'); dot != std::u16string::npos && dot > 0) exeName_.resize(dot);
 }

@@ -135,6 +135,10 @@ class ClassCommon {
 
   // Text files. length -1 reads the whole file, otherwise that many bytes. text is untouched on failure.
   bool ReadTextFile(std::u16string_view path, std::u16string& text, std::int64_t length) const;
+  enum class TextRead { Done, NoText, TooLong };  // too long: for the asked limit or for the memory there is
+  TextRead ReadWholeText(std::u16string_view path, std::u16string& text, std::size_t mostUnits) const;
+  // What the code page lacks is written as code_page.hpp says, and U+001A as "?": a file with that byte in it
+  // would be no text when read again.
   bool WriteTextFile(std::u16string_view path, std::u16string_view text) const;
   // Writes first + second as one text, without joining them, and one final CR LF. Each CR LF of the text
   // becomes the asked line end on the way; the final one stays CR LF.
@@ -161,6 +165,8 @@ class ClassCommon {
   const Ports& PortSet() const { return ports_; }
 
  private:
+  TextRead ReadText(std::u16string_view path, std::u16string& text, std::int64_t length,
+                    std::size_t limit) const;
   bool EditFile(FileOperation operation, const std::u16string& source, std::u16string target,
                 std::uint32_t flags) const;
 

@@ -8,13 +8,15 @@
 namespace kestri {
 namespace {
 
+constexpr std::int64_t kWholeFile = -1;
 constexpr char kEndOfFileMark = '\x1A';
 constexpr std::size_t kRoomForEdits = 64 * 1024;  // characters behind a text, so that it can grow where it is
 
-// Takes a file's bytes as they come; stops at the asked count and fails at an end-of-file mark.
+// Takes a file's bytes as they come; stops at the asked count, fails at an end-of-file mark and above the
+// limit.
 class TextReader {
  public:
-  TextReader(std::uint64_t wanted, std::uint64_t expected) : left_(wanted) {
+  TextReader(std::uint64_t wanted, std::uint64_t expected, std::size_t limit) : left_(wanted), limit_(limit) {
     text_.reserve(static_cast<std::size_t>(std::min(wanted, expected)) + kRoomForEdits);
   }
 
@@ -26,10 +28,11 @@ class TextReader {
     }
     decoder_.Append(bytes, text_);
     left_ -= bytes.size();
-    return left_ > 0;
+    return left_ > 0 && !IsTooLong();
   }
 
   bool IsBinary() const { return isBinary_; }
+  bool IsTooLong() const { return text_.size() > limit_; }
   std::uint64_t Left() const { return left_; }
 
   std::u16string Finish() {
@@ -40,6 +43,7 @@ class TextReader {
 
  private:
   std::uint64_t left_;
+  std::size_t limit_;
   bool isBinary_ = false;
   code_page::Decoder decoder_;
   std::u16string text_;
@@ -55,6 +59,13 @@ std::u16string_view LineEndText(LineEnd lineEnd) {
       break;
   }
   return kCrLf;
+}
+
+// A file with one in it would be no text when read again. No double-byte character holds that byte.
+void HideEndOfFileMarks(std::string& bytes) {
+  for (auto at = bytes.find(kEndOfFileMark); at != bytes.npos; at = bytes.find(kEndOfFileMark, at + 1)) {
+    bytes[at] = '?';
+  }
 }
 
 bool IsHighSurrogate(char16_t unit) {
@@ -88,7 +99,9 @@ class TextWriter {
   bool Flush(std::size_t length) {
     const bool convert = lineEnd_ != LineEnd::CrLf;
     const std::size_t kept = convert ? ConvertLineEnds(length) : length;
-    const bool written = write_(code_page::Encode(std::u16string_view(chunk_).substr(0, kept)));
+    std::string bytes = code_page::Encode(std::u16string_view(chunk_).substr(0, kept));
+    HideEndOfFileMarks(bytes);
+    const bool written = write_(bytes);
     chunk_.erase(0, length);
     return written;
   }
@@ -112,20 +125,32 @@ class TextWriter {
 
 }  // namespace
 
-bool ClassCommon::ReadTextFile(std::u16string_view path, std::u16string& text, std::int64_t length) const
-    try {
-  constexpr std::int64_t kWholeFile = -1;
+bool ClassCommon::ReadTextFile(std::u16string_view path, std::u16string& text, std::int64_t length) const {
+  return ReadText(path, text, length, std::u16string().max_size()) == TextRead::Done;
+}
+
+ClassCommon::TextRead ClassCommon::ReadWholeText(std::u16string_view path, std::u16string& text,
+                                                 std::size_t mostUnits) const {
+  constexpr std::size_t kFinalLineEnd = kCrLf.size();
+  const TextRead read = ReadText(path, text, kWholeFile, mostUnits + kFinalLineEnd);
+  return read == TextRead::Done && text.size() > mostUnits ? TextRead::TooLong : read;
+}
+
+ClassCommon::TextRead ClassCommon::ReadText(std::u16string_view path, std::u16string& text,
+                                            std::int64_t length, std::size_t limit) const try {
   const auto status = ports_.files.Status(path);
-  if (!status || (status->attributes & kAttributeDirectory) != 0 || length < kWholeFile) return false;
+  if (!status || (status->attributes & kAttributeDirectory) != 0 || length < kWholeFile)
+    return TextRead::NoText;
   const bool whole = length == kWholeFile;
-  TextReader reader(whole ? UINT64_MAX : static_cast<std::uint64_t>(length), status->size);
+  TextReader reader(whole ? UINT64_MAX : static_cast<std::uint64_t>(length), status->size, limit);
   const bool read = ports_.files.Read(path, [&](std::string_view bytes) { return reader.Take(bytes); });
+  if (reader.IsTooLong()) return TextRead::TooLong;
   const bool isShort = !whole && reader.Left() > 0;
-  if (!read || reader.IsBinary() || isShort) return false;
+  if (!read || reader.IsBinary() || isShort) return TextRead::NoText;
   text = reader.Finish();
-  return true;
+  return TextRead::Done;
 } catch (const std::exception&) {
-  return false;
+  return TextRead::TooLong;  // no memory for it
 }
 
 bool ClassCommon::WriteTextFile(std::u16string_view path, std::u16string_view text) const {

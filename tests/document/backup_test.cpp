@@ -166,5 +166,37 @@ TEST_F(Backups, WithoutArchiversThePackingFailsInWords) {
   EXPECT_FALSE(none.OpenArchiveQuietly(u"/b/a.zip"));
 }
 
+TEST_F(Backups, LongNamesAreCutAtACharacterSoThatTheCopyCanBeMade) {
+  struct Row {
+    std::string name;
+    std::string head;
+    std::string tail;
+  };
+  const auto times = [](int count, const std::string& text) {
+    std::string result;
+    for (int i = 0; i < count; ++i) result += text;
+    return result;
+  };
+  for (const Row& row :
+       {Row{std::string(244, 'a') + ".txt", "aaaa", "].txt"}, Row{std::string(255, 'a'), "aaaa", "]"},
+        Row{times(83, "表") + ".html", "表表", "].html"}, Row{times(62, "😀") + ".htm", "😀😀", "].htm"},
+        Row{"x" + times(62, "😀") + ".htm", "x😀😀", "].htm"},
+        Row{"a." + std::string(250, 'e'), "[2003", "ee"}}) {
+    SCOPED_TRACE(row.name);
+    Change(row.name);
+    const auto before = Copies().size();
+    EXPECT_TRUE(document->OverwriteSave());
+    ASSERT_EQ(Copies().size(), before + 1);
+    const std::u16string path = BackupName(*common, u"/b", u"/d/" + FromUtf8(row.name));
+    const std::string name = ToUtf8(path).substr(3);
+    EXPECT_LE(name.size(), 255U);
+    EXPECT_GE(name.size(), 252U);
+    EXPECT_TRUE(name.starts_with(row.head)) << name;
+    EXPECT_TRUE(name.ends_with(row.tail)) << name;
+    EXPECT_EQ(ToUtf8(FromUtf8(name)), name);
+    EXPECT_EQ(name.find("\xEF\xBF\xBD"), std::string::npos) << name;
+  }
+}
+
 }  // namespace
 }  // namespace kestri

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,16 @@ class FaultyFileSystem : public PosixFileSystem {
   bool Append(std::u16string_view path, std::string_view bytes) override {
     return !faultyAppend && PosixFileSystem::Append(path, bytes);
   }
+  bool Read(std::u16string_view path, const ByteConsumer& consumer) override {
+    if (path == tooMuch) throw std::bad_alloc();
+    if (path != endless) return PosixFileSystem::Read(path, consumer);
+    for (piecesRead = 1; piecesRead < 1000 && consumer(std::string(1000, 'x')); ++piecesRead) {
+    }
+    return true;
+  }
+  std::u16string endless;  // a file that tells no size and delivers without end
+  int piecesRead = 0;
+  std::u16string tooMuch;  // a file that finds no memory
   std::u16string faultyReplace;
   bool faultyCopy = false;
   bool faultyAppend = false;

@@ -31,6 +31,17 @@ TEST_F(Instances, NumberIsRecordedAtOnce) {
   EXPECT_EQ(FromInstanceLog(u"HWND", u"001HWND"), u"4711");
 }
 
+TEST_F(Instances, TheLastOfSeveralThatCloseTogetherTakesTheLogAlong) {
+  environment.processes = {environment.executable, environment.executable};
+  log.AssignWindowNumber(Nobody);
+  Record(u"002HWND", u"200");
+  log.Unregister(InstanceLog::Others::Running);
+  EXPECT_TRUE(common->PathExists(log.Path())) << "the second one is still there";
+  state.windowNumber = 2;
+  log.Unregister(InstanceLog::Others::Running);
+  EXPECT_FALSE(common->PathExists(log.Path())) << "each saw the other's process";
+}
+
 TEST_F(Instances, NumbersOfLivingWindowsArePassedOver) {
   Record(u"001HWND", u"100");
   Record(u"002HWND", u"200");

@@ -66,5 +66,20 @@ TEST_F(Lossy, ALoneSurrogateStandsForItself) {
   EXPECT_THAT(Found(), ElementsAre(Pair(char32_t(0xDE00), 1), Pair(char32_t(0xD83D), 3)));
 }
 
+TEST_F(Lossy, AnEndOfFileMarkIsOneOfThem) {
+  for (const int gap : {0, 1, 2, 3, 4, 5, 6}) {
+    control.SetText(
+        u"a😀\x1A"
+        u"é\x1A");
+    control.EM_SETSEL(gap, gap);
+    control.EM_REPLACESEL(false, u"x");
+    control.EM_SETSEL(control.SelStart() - 1, control.SelStart());
+    control.EM_REPLACESEL(false, u"");
+    EXPECT_THAT(Found(), ElementsAre(Pair(U'😀', 1), Pair(char32_t(0x1A), 3), Pair(U'é', 4))) << gap;
+  }
+  control.SetText(u"a\x1A");
+  EXPECT_THAT(Found(), ElementsAre(Pair(char32_t(0x1A), 1)));
+}
+
 }  // namespace
 }  // namespace kestri

@@ -21,6 +21,13 @@ TEST(DroppedText, ReplacesTheSelectionAndTakesTheFocus) {
   EXPECT_EQ(desk.Row(), "a⟦b⟧c");
 }
 
+TEST(DroppedText, BringsTheSignsThatTheCodePageHas) {
+  MainTextDesk desk;
+  desk.Put(u"‸");
+  EXPECT_EQ(desk.text.OLEDropText(u"\u2014\u2016"), MainText::Drop::Done);
+  EXPECT_EQ(desk.control.Text(), u"\u2015\u2225");
+}
+
 TEST(DroppedText, IsRefusedByAReadOnlyDocument) {
   MainTextDesk desk;
   desk.Put(u"a‸");

@@ -261,6 +261,22 @@ TEST(CommitInput, OfNothingLeavesTheSelection) {
   EXPECT_EQ(desk.Row(), "a⟦b⟧");
 }
 
+TEST(CommitInput, BringsTheSignsThatTheCodePageHas) {
+  MainTextDesk desk;
+  desk.Put(u"‸");
+  desk.text.CommitInput(u"\u301C\u2212\u2014\u2016\u00A2\u00A3\u00AC\u00A5");
+  EXPECT_EQ(desk.control.Text(), u"\uFF5E\uFF0D\u2015\u2225\uFFE0\uFFE1\uFFE2\u00A5");
+}
+
+TEST(Paste, BringsTheSignsThatTheCodePageHas) {
+  MainTextDesk desk;
+  desk.Put(u"‸");
+  desk.clipboard.text = u"10\u301C20\n";
+  desk.text.WM_PASTE();
+  desk.text.PasteAt(0, u"\u2212");
+  EXPECT_EQ(desk.control.Text(), u"\uFF0D10\uFF5E20\r\n");
+}
+
 TEST(CommitInput, OfSeveralLinesEndsThemWithCrLf) {
   MainTextDesk desk;
   desk.Put(u"‸");

@@ -133,6 +133,53 @@ TEST_F(OpenDocument, FileFarTooLargeForTheControlIsNotEvenRead) {
   EXPECT_EQ(Log(), Encoded(u"2003/02/01 04:05:06 ｻｲｽﾞが大きすぎます \"" + path + u"\"\r\n"));
 }
 
+TEST_F(OpenDocument, FileWithoutEndIsReadNoFurtherThanTheControlHolds) {
+  document->LimitText(5000);
+  const auto path = MakeFile("endless", "");
+  files.endless = path;
+  EXPECT_FALSE(Open(path));
+  EXPECT_LT(files.piecesRead, 10);
+  EXPECT_TRUE(shell.opened.empty());
+  EXPECT_EQ(Log(), Encoded(u"2003/02/01 04:05:06 ｻｲｽﾞが大きすぎます \"" + path + u"\"\r\n"));
+}
+
+TEST_F(OpenDocument, TextOfExactlyTheLimitIsTaken) {
+  document->LimitText(5);
+  EXPECT_TRUE(Open(MakeFile("a.txt", "12345\r\n")));
+  EXPECT_EQ(control.Text(), u"12345");
+  EXPECT_FALSE(Open(MakeFile("b.txt", "123456\r\n")));
+  EXPECT_EQ(control.Text(), u"12345");
+}
+
+TEST_F(OpenDocument, TextThatFindsNoMemoryIsTooLargeAndNotOfUnknownKind) {
+  const auto path = MakeFile("a.txt", "a\r\n");
+  files.tooMuch = path;
+  EXPECT_FALSE(Open(path));
+  EXPECT_TRUE(fallbacks.askedExtensions.empty());
+  EXPECT_EQ(Log(), Encoded(u"2003/02/01 04:05:06 ｻｲｽﾞが大きすぎます \"" + path + u"\"\r\n"));
+}
+
+TEST_F(OpenDocument, FileThatVanishesUnderTheQuestionBecomesANewDocument) {
+  struct : MessageBox {
+    MessageAnswer Ask(const MessageRequest&) override {
+      std::filesystem::remove(ToUtf8(path));
+      return MessageAnswer::Yes;
+    }
+    std::u16string path;
+  } vanishing;
+  vanishing.path = MakeFile("long.txt", std::string(40'000, 'x'));
+  document.emplace(control, state, *common, vanishing, dialogs, window, fallbacks);
+  ASSERT_TRUE(Open(vanishing.path));
+  EXPECT_EQ(state.currentFile, u"long.txt");
+  state.modified = -1;
+  EXPECT_FALSE(document->ConfirmDiscard(u""));  // the save asks for a name
+  ASSERT_EQ(dialogs.saves.size(), 1U);
+  MakeFile("long.txt", "somebody else's");
+  state.currentFile = vanishing.path;
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(Bytes(vanishing.path), "somebody else's");
+}
+
 TEST_F(OpenDocument, FolderShowsTheOpenDialogInIt) {
   EXPECT_FALSE(Open(Whole("state")));
   ASSERT_EQ(dialogs.opens.size(), 1U);

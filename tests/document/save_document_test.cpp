@@ -366,6 +366,31 @@ TEST_F(SaveDocument, CharactersOutsideTheCodePageAreSavedOnlyAfterYes) {
   EXPECT_EQ(Bytes(path), "\x95\x5C\r\n??one\r\ntwo\r\n");
 }
 
+TEST_F(SaveDocument, EndOfFileMarkIsAskedAboutAndTheSavedFileOpensAgain) {
+  const auto path = OpenAndType("a.txt", "one\r\n", u"x\x1A");
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_NE(ToUtf8(OnlyBox().text).find("(1行目 「U+001A」)"), std::string::npos);
+  EXPECT_EQ(Bytes(path), "one\r\n");
+  boxes.answers.push_back(MessageAnswer::Yes);
+  EXPECT_TRUE(document->OverwriteSave());
+  EXPECT_EQ(Bytes(path), "x?one\r\n");
+  EXPECT_TRUE(Open(path));
+}
+
+TEST_F(SaveDocument, FolderThatTookTheFilesPlaceIsNotBackedUp) {
+  std::filesystem::create_directory(ToUtf8(Whole("backup")));
+  Set(u"Path", u"UserBackUp", Whole("backup"));
+  const auto path = OpenAndType("a.txt", "one\r\n", u"x");
+  std::filesystem::remove(ToUtf8(path));
+  std::filesystem::create_directory(ToUtf8(path));
+  std::ofstream(ToUtf8(path) + "/inner.txt") << "inner";
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(ToUtf8(OnlyBox().caption), "ﾌｧｲﾙ書き込みｴﾗｰ Kestrile");
+  EXPECT_TRUE(std::filesystem::is_empty(ToUtf8(Whole("backup"))));
+  EXPECT_EQ(dialogs.saves.size(), 1U);
+  EXPECT_EQ(state.modified, -1);
+}
+
 TEST_F(SaveDocument, LossyCharacterIsNamedWhereverItStands) {
   for (int position = 0; position <= 9; ++position) {
     control.SetText(u"0123\r\n678");

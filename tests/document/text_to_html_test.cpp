@@ -97,7 +97,9 @@ class TextToHtmlTest : public DocumentTest {
     return conversion->Convert(source, options) && conversion->OpenTarget();
   }
   std::string Page() const { return Bytes(conversion->TargetPath()); }
-  bool TemporaryFolderIsEmpty() const { return std::filesystem::is_empty(std::filesystem::path(folder.Path()) / "tmp"); }
+  bool TemporaryFolderIsEmpty() const {
+    return std::filesystem::is_empty(std::filesystem::path(folder.Path()) / "tmp");
+  }
   void ExpectFailureBox(const MessageRequest& box) const {
     ExpectBox(box, u"HTMLに変換して開く",
               u"ﾃｷｽﾄのHTML型変換に失敗しました!! \r\n\r\n"
@@ -143,6 +145,17 @@ TEST_F(TextToHtmlTest, ANameOfNothingIsAFailure) {
   EXPECT_FALSE(Run(Work("nothing.txt")));
   ExpectFailureBox(OnlyBox());
   EXPECT_TRUE(TemporaryFolderIsEmpty());
+}
+
+TEST_F(TextToHtmlTest, ATitleThatTheCodePageLacksIsAFailure) {
+  const std::u16string source = MakeFile("memo.txt", "memo");
+  EXPECT_FALSE(Run(source, {.title = u"Caf\u00E9 \U0001F600"}));
+  ExpectFailureBox(OnlyBox());
+  EXPECT_TRUE(TemporaryFolderIsEmpty());
+  boxes.asked.clear();
+  EXPECT_TRUE(Run(source, {.frame = PageFrame::None, .title = u"\u00E9"}))
+      << "without a frame there is no title";
+  EXPECT_TRUE(boxes.asked.empty());
 }
 
 TEST_F(TextToHtmlTest, AFolderIsAFailure) {

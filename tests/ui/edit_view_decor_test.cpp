@@ -324,6 +324,18 @@ TEST(EditViewDecor, TheCaretsPixelIsUnknownOutsideOfWhatShows) {
   EXPECT_NE(desk.view.GetCaretPixel(), QPoint(-9999, -9999));
 }
 
+TEST(EditViewDecor, AScrollPositionToldWhileNothingIsPaintedHoldsForTheNewText) {
+  EditViewDesk desk;
+  std::u16string text;
+  for (int i = 0; i < 400; ++i) text += u"line\r\n";
+  desk.desk.control.WM_SETREDRAW(false);
+  desk.desk.control.SetText(std::move(text));
+  desk.view.SetScrollPosition({.firstLine = 154, .x = 0});
+  desk.desk.control.WM_SETREDRAW(true);
+  desk.view.Flush();
+  EXPECT_EQ(desk.view.ScrollPosition().firstLine, 154);
+}
+
 TEST(EditViewDecor, TheScrollPositionIsKeptAndRestored) {
   EditViewDesk desk;
   std::u16string text;

@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "platform/qt/qt_text.hpp"
+#include "platform/qt/title_room.hpp"
 #include "tests/fakes/main_text_desk.hpp"
 
 namespace kestri {
@@ -45,6 +46,55 @@ TEST_F(ToolWindow, IsASmallToolWindowWithTheProgramsName) {
   EXPECT_EQ(form->windowTitle(), QStringLiteral("MenuBar for Kestrile"));
   EXPECT_EQ(form->windowType(), Qt::Tool);
   EXPECT_LT(form->height(), 60);
+  EXPECT_GE(form->width(), RoomForTitle(*form));
+}
+
+TEST_F(ToolWindow, ItsLettersAreNotThoseOfTheMainMenu) {
+  const auto form = Open();
+  QStringList captions;
+  for (const QAction* menu : form->findChild<QMenuBar*>()->actions()) captions += menu->text();
+  EXPECT_EQ(captions.join(u'|'), QStringLiteral("特殊文字(&M)|色(&C)|ﾌｫﾝﾄ(&N)"));
+}
+
+// A window over another one, whose text has the keys.
+class OverItsOwner : public ToolWindow {
+ protected:
+  OverItsOwner() {
+    owner.show();
+    form = new EditSubFrm(transforms, desk.common, desk.host,
+                          {.color = [this](std::u16string_view) { return Answer(); }, .font = {}}, &inside);
+    form->show();
+    form->activateWindow();
+    QApplication::processEvents();
+  }
+  std::optional<std::u16string> Answer() {
+    form->activateWindow();
+    QApplication::processEvents();
+    return std::nullopt;
+  }
+  bool OwnerHasTheKeys() {
+    return QTest::qWaitFor([this] { return QApplication::activeWindow() == &owner; }, 1000);
+  }
+
+  QWidget owner;
+  QWidget inside{&owner};
+  EditSubFrm* form = nullptr;
+};
+
+TEST_F(OverItsOwner, AnEntryGivesTheOwnerTheKeys) {
+  ASSERT_EQ(QApplication::activeWindow(), form);
+  MenuAt(*form, 0)->actions().at(6)->trigger();
+  EXPECT_TRUE(OwnerHasTheKeys());
+}
+
+TEST_F(OverItsOwner, ACancelledDialogGivesTheOwnerTheKeys) {
+  MenuAt(*form, 1)->actions().back()->trigger();
+  EXPECT_TRUE(OwnerHasTheKeys());
+}
+
+TEST_F(OverItsOwner, EscGivesTheOwnerTheKeys) {
+  QTest::keyClick(form, Qt::Key_Escape);
+  EXPECT_TRUE(OwnerHasTheKeys());
 }
 
 TEST_F(ToolWindow, EachEntryPutsInItsTextAndGivesTheFocusBack) {
@@ -100,27 +150,38 @@ TEST_F(ToolWindow, DialogsAreAskedByTheirTitleAndTheirAnswerIsPutIn) {
 TEST_F(ToolWindow, OpensWhereItStoodInTwips) {
   desk.SetSetting(u"ToolLeft", u"1500");
   desk.SetSetting(u"ToolTop", u"3000");
-  EXPECT_EQ(Open()->pos(), QPoint(100, 200));
+  EXPECT_EQ(Open()->geometry().topLeft(), QPoint(100, 200));
 }
 
 TEST_F(ToolWindow, OpensAtOneThousandTwipsTheFirstTime) {
-  EXPECT_EQ(Open()->pos(), QPoint(66, 66));
+  EXPECT_EQ(Open()->geometry().topLeft(), QPoint(66, 66));
 }
 
 TEST_F(ToolWindow, KeepsItsPlaceWhenItCloses) {
   const auto form = Open();
-  form->move(40, 60);
+  form->setGeometry(QRect(QPoint(40, 60), form->size()));
   form->close();
   EXPECT_EQ(Setting(u"ToolLeft"), "600");
   EXPECT_EQ(Setting(u"ToolTop"), "900");
 }
 
+TEST_F(ToolWindow, StandsStillHoweverOftenItOpens) {
+  for (int session = 0; session < 3; ++session) {
+    const auto form = Open();
+    ASSERT_NE(form->geometry().topLeft(), form->pos()) << "the frame has a width";
+    EXPECT_EQ(form->geometry().topLeft(), QPoint(66, 66));
+    form->hide();
+    form->show();
+    EXPECT_EQ(form->geometry().topLeft(), QPoint(66, 66));
+  }
+}
+
 TEST_F(ToolWindow, KeepsItsPlaceWhenTheProgramEnds) {
   auto form = Open();
-  form->move(20, 10);
+  form->setGeometry(QRect(QPoint(30, 40), form->size()));
   form.reset();
-  EXPECT_EQ(Setting(u"ToolLeft"), "300");
-  EXPECT_EQ(Setting(u"ToolTop"), "150");
+  EXPECT_EQ(Setting(u"ToolLeft"), "450");
+  EXPECT_EQ(Setting(u"ToolTop"), "600");
 }
 
 TEST_F(ToolWindow, APlaceOutsideEveryScreenIsBroughtBack) {
@@ -135,6 +196,12 @@ TEST_F(ToolWindow, EscClosesIt) {
   QTest::keyClick(form.get(), Qt::Key_Escape);
   EXPECT_FALSE(form->isVisible());
   EXPECT_THAT(desk.journal, Contains("focus text"));
+}
+
+TEST_F(ToolWindow, EscClosesItFromItsBarToo) {
+  const auto form = Open();
+  QTest::keyClick(form->findChild<QMenuBar*>(), Qt::Key_Escape);
+  EXPECT_FALSE(form->isVisible());
 }
 
 TEST_F(ToolWindow, PicturesForAPersonToLookAt) {

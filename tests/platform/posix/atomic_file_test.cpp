@@ -123,6 +123,35 @@ TEST(AtomicFile, AllHardLinksGetTheNewContent) {
   EXPECT_THAT(folder.Names(), UnorderedElementsAre("a.htm", "b.htm"));
 }
 
+TEST(AtomicFile, AFileMountedAtItsPlaceIsWrittenInPlace) {
+  for (const int error : {EBUSY, EXDEV}) {
+    const TemporaryFolder folder;
+    folder.Write("a.htm", kOld);
+    const ino_t before = StatusOf(folder.Path("a.htm")).st_ino;
+    FailingCalls calls;
+    calls.RefuseRenames(error);
+    EXPECT_TRUE(SaveIn(calls, folder, "a.htm", kNew));
+    EXPECT_EQ(folder.Read("a.htm"), kNew);
+    EXPECT_EQ(StatusOf(folder.Path("a.htm")).st_ino, before);
+    EXPECT_THAT(folder.Names(), ElementsAre("a.htm"));
+  }
+}
+
+TEST(AtomicFile, ARenameThatFailsOtherwiseIsAFailedSave) {
+  for (const char* name : {"a.htm", "new.htm"}) {
+    for (const int error : {EIO, ENOSPC, EBUSY}) {
+      if (error == EBUSY && std::string(name) == "a.htm") continue;
+      const TemporaryFolder folder;
+      folder.Write("a.htm", kOld);
+      FailingCalls calls;
+      calls.RefuseRenames(error);
+      EXPECT_FALSE(SaveIn(calls, folder, name, kNew));
+      EXPECT_EQ(folder.Read("a.htm"), kOld);
+      EXPECT_THAT(folder.Names(), ElementsAre("a.htm"));
+    }
+  }
+}
+
 TEST(AtomicFile, HardLinkedFileMayShrink) {
   const TemporaryFolder folder;
   folder.Write("a.htm", kNew);
@@ -264,6 +293,7 @@ struct Layout {
   int hardLinks;
   bool isClosed;
   Durability durability;
+  bool isMounted = false;
 };
 
 class FailureAtEveryCall : public testing::TestWithParam<Layout> {
@@ -278,6 +308,7 @@ class FailureAtEveryCall : public testing::TestWithParam<Layout> {
 
   bool SaveWith(FailingCalls& calls, const TemporaryFolder& folder) {
     if (GetParam().isClosed) calls.CloseFolder(folder.Path("f"), EACCES);
+    if (GetParam().isMounted) calls.RefuseRenames(EBUSY);
     return SaveIn(calls, folder, "f/a.htm", kNew, GetParam().durability);
   }
 
@@ -323,7 +354,9 @@ INSTANTIATE_TEST_SUITE_P(Layouts, FailureAtEveryCall,
                                          Layout{"Ordered", 0, false, Durability::Ordered},
                                          Layout{"Unsynced", 0, false, Durability::Renamed},
                                          Layout{"HardLinked", 1, false, Durability::Synced},
-                                         Layout{"ClosedFolder", 0, true, Durability::Synced}),
+                                         Layout{"ClosedFolder", 0, true, Durability::Synced},
+                                         Layout{"Mounted", 0, false, Durability::Synced, true},
+                                         Layout{"MountedUnsynced", 0, false, Durability::Renamed, true}),
                          [](const auto& layout) { return std::string(layout.param.name); });
 
 }  // namespace

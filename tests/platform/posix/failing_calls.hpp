@@ -27,6 +27,8 @@ class FailingCalls : public posix::PosixCalls {
     closedFolder_ = std::move(folder);
     closedError_ = error;
   }
+  // Nothing can be renamed over the file, as where it is a mount point of its own.
+  void RefuseRenames(int error) { renameError_ = error; }
   // Writes hand over at most this many bytes a call.
   void LimitWrites(std::size_t bytes) { writeLimit_ = bytes; }
   std::vector<std::string> removed;
@@ -68,7 +70,10 @@ class FailingCalls : public posix::PosixCalls {
   }
   int ChangeMode(int file, mode_t mode) override { return Fails() ? -1 : PosixCalls::ChangeMode(file, mode); }
   int Rename(const std::string& from, const std::string& to) override {
-    return Fails() ? -1 : PosixCalls::Rename(from, to);
+    if (Fails()) return -1;
+    if (renameError_ == 0) return PosixCalls::Rename(from, to);
+    errno = renameError_;
+    return -1;
   }
   int Remove(const std::string& path) override {
     removed.push_back(path);
@@ -89,6 +94,7 @@ class FailingCalls : public posix::PosixCalls {
   int made_ = 0;
   std::string closedFolder_;
   int closedError_ = 0;
+  int renameError_ = 0;
   std::size_t writeLimit_ = static_cast<std::size_t>(-1);
 };
 

@@ -26,6 +26,7 @@
 #include "platform/qt/qt_file_dialog.hpp"
 #include "platform/qt/qt_input_box.hpp"
 #include "platform/qt/qt_message_box.hpp"
+#include "platform/qt/title_room.hpp"
 #include "tests/fakes/screens.hpp"
 #include "tests/fakes/temporary_folder.hpp"
 #include "tests/platform/qt/shown_words.hpp"
@@ -196,7 +197,21 @@ TEST_F(JapaneseLabels, OfTheInputBox) {
   QtInputBox box;
   WhileOpen([&] { box.Ask(u"名前を入れて下さい", u"入力", u""); },
             [](QDialog& dialog) {
-              EXPECT_EQ(ButtonsOf(dialog), (QStringList{QStringLiteral("OK"), QStringLiteral("キャンセル")}));
+              EXPECT_EQ(ButtonsOf(dialog),
+                        (QStringList{QStringLiteral("OK(&O)"), QStringLiteral("キャンセル(&C)")}));
+              for (const QPushButton* button : dialog.findChildren<QPushButton*>())
+                EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+            });
+}
+
+TEST_F(JapaneseLabels, TheInputBoxIsAsWideAsItsTitle) {
+  QtInputBox box;
+  WhileOpen([&] { box.Ask(u"?", u"新規作成 (拡張子のﾕｰｻﾞｰ指定)", u".txt"); },
+            [](QDialog& dialog) {
+              EXPECT_GE(dialog.width(), RoomForTitle(dialog));
+              EXPECT_GE(RoomForTitle(dialog),
+                        dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + 80);
+              fakes::SavePicture(dialog.grab().toImage(), QStringLiteral("InputBox"));
             });
 }
 

@@ -1,5 +1,5 @@
-// The file dialogs by their real widgets: filter rows, the extension of a saved name, the question before a file is
-// replaced.
+// The file dialogs by their real widgets: filter rows, the extension of a saved name, the question before a
+// file is replaced.
 #include "platform/qt/qt_file_dialog.hpp"
 
 #include <gtest/gtest.h>
@@ -26,8 +26,8 @@ TEST(NameFilters, TheCaptionStaysAndThePatternsStandInASecondBracket) {
 
 class SaveDialog : public testing::Test {
  protected:
-  // Types the name into the dialog and accepts it, answers the question if one comes, and gives up when the dialog is
-  // there again.
+  // Types the name into the dialog and accepts it, answers the question if one comes, and gives up when the
+  // dialog is there again.
   std::optional<FileDialogAnswer> Save(const QString& name, int row, const QString& answer = QString()) {
     bool typed = false;
     QTimer user;
@@ -42,7 +42,8 @@ class SaveDialog : public testing::Test {
     user.start(20);
     QtFileDialog dialogs;
     return dialogs.AskSave({.title = u"名前を付けて保存",
-                            .filter = u"HTML 文書 (*.htm;*.html)|*.htm;*.html|すべてのﾌｧｲﾙ (*.*)|*.*",
+                            .filter = u"HTML 文書 (*.htm;*.html)|*.htm;*.html|すべてのﾌｧｲﾙ (*.*)|*.*|"
+                                      u"ｽﾀｲﾙｼｰﾄ (*.css)|*.css",
                             .filterIndex = row,
                             .folder = folder_.Text(),
                             .fileName = u"",
@@ -59,6 +60,12 @@ class SaveDialog : public testing::Test {
   fakes::TemporaryFolder folder_;
   QString asked_;
 };
+
+TEST_F(SaveDialog, AnExtensionOfAnotherRowIsKept) {
+  const auto answer = Save(QStringLiteral("page.css"), 1);
+  ASSERT_TRUE(answer.has_value());
+  EXPECT_EQ(answer->fileName, folder_.Text(u"page.css"));
+}
 
 TEST_F(SaveDialog, TheRowsExtensionIsAddedToANameWithADotInIt) {
   const auto answer = Save(QStringLiteral("my.page"), 1);

@@ -150,5 +150,27 @@ TEST_F(TextFiles, ATextWithoutFinalLineEndRoundTrips) {
   }
 }
 
+TEST_F(TextFiles, AnEndOfFileMarkIsWrittenAsAQuestionMark) {
+  EXPECT_EQ(Written(u"a\x1A", u"\x1A\r\n", LineEnd::Lf), "a??\n\r\n");
+  EXPECT_TRUE(common_.WriteTextFile(folder.Text(u"b.htm"), u"日\x1A"));
+  EXPECT_EQ(folder.Read("b.htm"), "\x93\xFA?\r\n");
+}
+
+TEST_F(TextFiles, AWholeTextIsReadUpToTheLimit) {
+  using enum ClassCommon::TextRead;
+  const auto read = [this](std::string_view bytes) {
+    folder.Write("a.htm", bytes);
+    std::u16string text = u"before";
+    const auto done = common_.ReadWholeText(folder.Text(u"a.htm"), text, 4);
+    return std::pair(done, ToUtf8(text));
+  };
+  EXPECT_EQ(read("abcd"), std::pair(Done, std::string("abcd")));
+  EXPECT_EQ(read("abcd\r\n"), std::pair(Done, std::string("abcd")));
+  EXPECT_EQ(read("\x93\xFA\x93\xFA\x93\xFA\x93\xFA"), std::pair(Done, std::string("日日日日")));
+  EXPECT_EQ(read("abcde").first, TooLong);
+  EXPECT_EQ(read(std::string(1'000'000, 'x')).first, TooLong);
+  EXPECT_EQ(read("a\x1A").first, NoText);
+}
+
 }  // namespace
 }  // namespace kestri
