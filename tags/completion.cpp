@@ -154,7 +154,7 @@ void InToTAG::Activate() {
     startPos_ = nextStart_;
   }
   nextStart_ = -1;
-  closeTag_ = 0;
+  closeTag_ = TypedClosingTag();
   around_.view.Select(selected_);
 }
 
@@ -209,10 +209,14 @@ void InToTAG::TypeIntoText(char16_t character) {
   JumpToPrefix();
 }
 
+bool InToTAG::TypedClosingTag() const {
+  return editMode_ == kModeTag && Left(Trim(typed_), 1) == u"/";
+}
+
 bool InToTAG::JumpToPrefix() {
   if (autoSelect_ != 1) return false;
   const std::u16string_view word = Trim(typed_);
-  closeTag_ = editMode_ == kModeTag && Left(word, 1) == u"/";
+  closeTag_ = TypedClosingTag();
   const int row = FindItem(rows_, closeTag_ == 1 ? Mid(word, 2) : std::u16string_view(typed_));
   if (row < 0) return false;
   selected_ = row;

@@ -65,6 +65,7 @@ class InToTAG {
   void InsertWrapped(std::u16string_view text, std::u16string_view open, std::u16string_view close,
                      std::int32_t mode);
   bool JumpToPrefix();
+  bool TypedClosingTag() const;
 
   std::int32_t StartPos() const { return startPos_; }
   std::int32_t NextStart() const { return nextStart_; }

@@ -53,7 +53,8 @@ void NameUnderIcon::paint(QPainter* painter, const QStyleOptionViewItem& given,
   painter->save();
   style->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
   QRect place = option.rect.adjusted(kMargin / 2, kMargin, -kMargin / 2, 0);
-  option.icon.paint(painter, place.left(), place.top(), place.width(), kIconSize);
+  option.icon.paint(painter, place.left() + (place.width() - kIconSize) / 2, place.top(), kIconSize,
+                    kIconSize);
   place.setTop(place.top() + kIconSize + kMargin);
 
   const bool selected = option.state.testFlag(QStyle::State_Selected);

@@ -1,7 +1,7 @@
 #include "shell/forms/HTMLfrm.hpp"
 
 #include <QApplication>
-#include <QScreen>
+#include <QSessionManager>
 #include <QShortcut>
 #include <QWindow>
 
@@ -69,8 +69,12 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
   tagServices_.AttachPopup(&popup_);
   tagServices_.AttachHints(this);
   popupForm_.Attach(&popup_);
+  fonts_.SetStylesOffered(false);
   setCentralWidget(view_);
   labelText_ = new QLabel(view_);
+  labelText_->setAutoFillBackground(true);
+  labelText_->setFrameShape(QFrame::StyledPanel);
+  labelText_->setMargin(12);
   labelText_->hide();
   Tell(u"ﾒﾓﾘ初期化中...");
   BuildMenus();
@@ -88,6 +92,8 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
   InstallSubclass(settings_.subClass);
   Tell(u"初期ﾌｧｲﾙ設定中...");
   StartFirstDocument();
+  connect(qApp, &QGuiApplication::commitDataRequest, this,
+          [this](QSessionManager& session) { EndOfSession(session); });
   connect(qApp, &QGuiApplication::focusWindowChanged, this,
           [this] { RefreshTopMost(services_.state.topMost); });
   connect(&timeP_, &QTimer::timeout, this, [this] { TimeP(); });
@@ -106,20 +112,15 @@ void HTMLfrm::Tell(std::u16string_view stage) {
 
 void HTMLfrm::BuildMenus() {
   panes_ = new StatusPanes(this);
-  actions_ =
-      new CommandActions(commands_,
-                         {.hint =
-                              [this](int hint) {
-                                if (services_.state.menuHints != 0)
-                                  panes_->SetPane(StatusPanes::kMessage, MenuHintText(resources_, hint));
-                              },
-                          .unknownError =
-                              [this] {
-                                services_.boxes.Ask({.text = u"不明なｴﾗｰが発生しました",
-                                                     .caption = std::u16string(kApplicationTitle),
-                                                     .icon = MessageIcon::Exclamation});
-                              }},
-                         this);
+  actions_ = new CommandActions(commands_,
+                                {.hint = [this](int hint) { ShowHint(hint); },
+                                 .unknownError =
+                                     [this] {
+                                       services_.boxes.Ask({.text = u"不明なｴﾗｰが発生しました",
+                                                            .caption = std::u16string(kApplicationTitle),
+                                                            .icon = MessageIcon::Exclamation});
+                                     }},
+                                this);
   actions_->BuildMenus(*menuBar());
   for (const SubmenuKey& row : SubmenuKeys()) {
     const QKeySequence key(QString::fromLatin1(row.key.data(), static_cast<qsizetype>(row.key.size())));
@@ -127,6 +128,10 @@ void HTMLfrm::BuildMenus() {
       actions_->PopUp(submenu, view_->viewport()->mapToGlobal(view_->CaretRect().bottomLeft()));
     });
   }
+}
+
+void HTMLfrm::ShowHint(int hint) {
+  if (services_.state.menuHints != 0) panes_->SetPane(StatusPanes::kMessage, MenuHintText(resources_, hint));
 }
 
 void HTMLfrm::ApplySettings() {
@@ -159,7 +164,7 @@ void HTMLfrm::RestoreBars() {
   toolBar_ = new ToolBar(*actions_, this,
                          {.fileKind = [this] { return services_.state.fileKind; },
                           .externalProgram = [this](int index) { return programs_.ProgramName(index); },
-                          .hintGone = [this] { panes_->SetPane(StatusPanes::kMessage, {}); }});
+                          .hintGone = [this] { ShowHint(0); }});
   addToolBar(toolBar_);
   floatingBar_ = new Toolbar1({.owner = *this,
                                .bar = *toolBar_,
@@ -186,7 +191,8 @@ void HTMLfrm::LayOutBars() {
 void HTMLfrm::PlaceWindow() {
   const PlacementAtStart placement = PlacementOf(settings_.startUpWindow);
   const WindowRectangle& rectangle = placement.usePosition ? settings_.rectangle : WindowRectangle();
-  const QRect wanted = ToPixels(KeepOnScreen(rectangle, ToTwips(ScreenArea())));
+  const QRect screen = ScreenAreaAt(ToPixels(rectangle).center(), *this);
+  const QRect wanted = ToPixels(KeepOnScreen(rectangle, ToTwips(screen)));
   if (placement.useSize) resize(wanted.size());
   if (placement.usePosition) move(wanted.topLeft());
   if (placement.maximized) setWindowState(Qt::WindowMaximized);
@@ -198,10 +204,6 @@ void HTMLfrm::InstallSubclass(int mode) {
 
 void HTMLfrm::StartFirstDocument() {
   NewText(2, services_.common, document_, *this, services_.state, services_.inputBox, UseTemplate::No);
-}
-
-QRect HTMLfrm::ScreenArea() const {
-  return screen()->availableGeometry();
 }
 
 void HTMLfrm::FinishLoading() {

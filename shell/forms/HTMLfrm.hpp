@@ -33,6 +33,8 @@
 #include "ui/edit_view.hpp"
 #include "ui/program_resources.hpp"
 
+class QSessionManager;
+
 namespace kestri {
 
 class HTMLfrm : public QMainWindow,
@@ -85,6 +87,7 @@ class HTMLfrm : public QMainWindow,
   // The stages of the load, in their order.
   void Tell(std::u16string_view stage);
   void BuildMenus();
+  void ShowHint(int hint);  // 0: takes the hint away
   void ApplySettings();
   void AddIcons();
   void RestoreBars();
@@ -98,11 +101,12 @@ class HTMLfrm : public QMainWindow,
   void SaveSettings();
   void LeaveInstances();
   void CloseOtherForms();
+  // The user logs out: the document is asked for here too.
+  void EndOfSession(QSessionManager& session);
 
   void ApplyFont();
   void TimeP();
   std::u16string CaretText() const;
-  QRect ScreenArea() const;
 
   // MainTextHost, DocumentWindow
   void MessageToStatusBar(std::u16string_view text) override;

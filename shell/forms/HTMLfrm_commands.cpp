@@ -40,14 +40,14 @@ void HTMLfrm::ShowInsertBar() {
 
 EditSubFrm::Dialogs HTMLfrm::InsertBarDialogs() {
   return {.color = [this](std::u16string_view title) -> std::optional<std::u16string> {
-            std::u16string color = colors_.SettingColor(title, u"", insertBar_);
+            std::u16string color = colors_.SettingColor(title, u"", this);
             if (color.empty()) return std::nullopt;
             return color;
           },
           .font = [this](std::u16string_view title) -> std::optional<std::u16string> {
             fonts_.SetCaption(title);
             fonts_.SetFontName(settings_.fontName);
-            if (!fonts_.ShowFont(insertBar_)) return std::nullopt;
+            if (!fonts_.ShowFont(this)) return std::nullopt;
             return fonts_.FontName();
           }};
 }

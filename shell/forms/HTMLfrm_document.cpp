@@ -36,15 +36,15 @@ void HTMLfrm::FocusText() {
 }
 
 void HTMLfrm::BringToFront() {
-  if (isMinimized()) showNormal();
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   raise();
   activateWindow();
 }
 
 void HTMLfrm::ShowTextMenu() {
-  static constexpr std::pair<std::string_view, int> kItems[] = {{"MenUNDO", 0}, {"MenUNDO", 1}, {"Edit", 0},
-                                                                {"Edit", 1},    {"Edit", 2},    {"Edit", 3},
-                                                                {"Edit", 5},    {"HTMLEdit", 4}};
+  static constexpr std::pair<std::string_view, int> kItems[] = {
+      {"MenUNDO", 0}, {"MenUNDO", 1}, {"Edit", 0},     {"Edit", 1},      {"Edit", 2},
+      {"Edit", 3},    {"Edit", 5},    {"HTMLEdit", 4}, {"mnuFreeInd", 0}};
   std::vector<const CommandRow*> rows;
   for (const auto& [array, index] : kItems) rows.push_back(FindCommand(array, index));
   QMenu menu(this);

@@ -1,6 +1,7 @@
 // What goes on while the window lives, and how it ends.
 #include <QApplication>
 #include <QCloseEvent>
+#include <QSessionManager>
 
 #include "document/instance_log.hpp"
 #include "platform/qt/qt_text.hpp"
@@ -64,17 +65,23 @@ void HTMLfrm::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
+void HTMLfrm::EndOfSession(QSessionManager& session) {
+  if (!session.allowsInteraction()) return;
+  if (!document_.ConfirmDiscard(u"終了")) session.cancel();
+  session.release();
+}
+
 void HTMLfrm::ShowClosing() {
   labelText_->setText(QStringLiteral(" しばらく待ちください...\n閉じています..."));
   const QSize size = labelText_->sizeHint();
   MoveEx(*labelText_, (view_->width() - size.width()) / 2, (view_->height() - size.height()) / 2,
          size.width(), size.height());
   labelText_->show();
-  labelText_->repaint();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void HTMLfrm::SaveSettings() {
-  settings_.rectangle = ToTwips(QRect(pos(), size()));
+  if (!isMaximized()) settings_.rectangle = ToTwips(QRect(pos(), size()));
   SaveWindowSettings(services_.common, services_.state, settings_, StateOf(*this));
   floatingBar_->SaveSettings();
 }

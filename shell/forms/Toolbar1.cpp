@@ -1,27 +1,20 @@
 #include "shell/forms/Toolbar1.hpp"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMainWindow>
-#include <QScreen>
 #include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform/qt/qt_text.hpp"
+#include "shell/forms/window_rectangles.hpp"
 
 namespace kestri {
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
 constexpr Qt::WindowFlags kSmallWindow = Qt::Tool | Qt::WindowDoesNotAcceptFocus | Qt::CustomizeWindowHint |
                                          Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-
-QRect ScreenAreaAt(QPoint place, const QWidget& owner) {
-  const QScreen* screen = QGuiApplication::screenAt(place);
-  return (screen != nullptr ? screen : owner.screen())->availableGeometry();
-}
 
 }  // namespace
 

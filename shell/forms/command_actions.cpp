@@ -17,6 +17,10 @@ int IndexOf(const CommandRow& row) {
   return static_cast<int>(&row - CommandRows().data());
 }
 
+bool IsOfText(TopMenu menu) {
+  return menu == TopMenu::Edit || menu == TopMenu::Html || menu == TopMenu::Text;
+}
+
 const CommandRow* RowOf(const QAction& action) {
   const QVariant index = action.property(kRowProperty);
   return index.isValid() ? &CommandRows()[static_cast<std::size_t>(index.toInt())] : nullptr;
@@ -70,7 +74,7 @@ void CommandActions::Run(const CommandRow& row) {
   try {
     if (row.enabled(commands_)) {
       row.run(commands_);
-    } else if (row.menu == TopMenu::Edit || row.menu == TopMenu::Html) {
+    } else if (IsOfText(row.menu)) {
       commands_.AnswerIfReadOnly();
     }
   } catch (const std::exception&) {
@@ -105,6 +109,7 @@ QMenu& CommandActions::MakeSubmenu(QMenu& top, std::u16string_view caption) {
   const std::u16string_view parent = ParentSubmenu(caption);
   QMenu* made = (parent.empty() ? top : MakeSubmenu(top, parent)).addMenu(ToQt(caption));
   submenus_.emplace(caption, made);
+  connect(made->menuAction(), &QAction::hovered, this, [this] { tell_.hint(0); });
   FollowMenu(*made);
   return *made;
 }

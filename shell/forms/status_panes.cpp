@@ -10,7 +10,7 @@
 namespace kestri {
 namespace {
 
-constexpr int kPadding = 7;  // pixels on each side
+constexpr int kPadding = 5;  // pixels on each side
 
 struct PaneRow {
   const char16_t* name;
@@ -18,12 +18,13 @@ struct PaneRow {
   const char16_t* smallest;  // what must be read in a narrow window
 };
 
-constexpr std::array<PaneRow, 6> kPanes = {{{u"メッセージ", u"", u"保存完了 [ 2026"},
-                                            {u"状態", u"99999(ｲﾝﾃﾞｯｸｽ) / 99999", u"変更あり"},
-                                            {u"改行コード", u"CR+LF", u"CR+LF"},
-                                            {u"文書の種類", u"HTML", u"HTML"},
-                                            {u"カーソル位置", u"99999行 9999列", u"999行 99列"},
-                                            {u"時刻", u"00:00:00 AM", u"00:00:00 AM"}}};
+constexpr std::array<PaneRow, 6> kPanes = {
+    {{u"メッセージ", u"", u"保存"},
+     {u"状態", u"現在のﾃｷｽﾄの総ｻｲｽﾞは 999,999.99ｷﾛﾊﾞｲﾄ (999,999,999ﾊﾞｲﾄ) です", u"変更あり"},
+     {u"改行コード", u"CR+LF", u"CR+LF"},
+     {u"文書の種類", u"HTML", u"HTML"},
+     {u"カーソル位置", u"99999行 9999列", u"999行 99列"},
+     {u"時刻", u"00:00:00 AM", u"00:00:00 AM"}}};
 
 }  // namespace
 

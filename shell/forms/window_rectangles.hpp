@@ -1,7 +1,10 @@
 // Twips of the settings and pixels of the screen.
 #pragma once
 
+#include <QGuiApplication>
 #include <QRect>
+#include <QScreen>
+#include <QWidget>
 #include <cstdint>
 
 #include "shell/window/window_placement.hpp"
@@ -23,6 +26,12 @@ inline WindowRectangle ToTwips(const QRect& pixels) {
           .top = pixels.top() * kTwipsPerPixel,
           .width = pixels.width() * kTwipsPerPixel,
           .height = pixels.height() * kTwipsPerPixel};
+}
+
+// What windows may cover on the screen that holds the point, or else on the widget's own.
+inline QRect ScreenAreaAt(QPoint point, const QWidget& widget) {
+  const QScreen* screen = QGuiApplication::screenAt(point);
+  return (screen != nullptr ? screen : widget.screen())->availableGeometry();
 }
 
 }  // namespace kestri

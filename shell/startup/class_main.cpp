@@ -89,7 +89,10 @@ std::int32_t ClassMain::Dispatch(std::u16string_view commandLine) {
 
 std::int32_t ClassMain::StartEditor(std::u16string_view commandLine) {
   Progress(u"");
-  const std::int32_t result = ParseCommandLine(WithoutQuotes(commandLine));
+  // A name may end in a blank.
+  const bool wholePath = common_.PathExists(commandLine);
+  const std::int32_t result =
+      ParseCommandLine(wholePath ? std::u16string(commandLine) : WithoutQuotes(commandLine));
   state_.startupState = {};
   if (result == kLive) windows_.ActivateEditor();
   return result;

@@ -10,6 +10,7 @@
 #include "shell/window/rows/html_rows.hpp"
 #include "shell/window/rows/search_rows.hpp"
 #include "shell/window/rows/setting_rows.hpp"
+#include "shell/window/rows/text_menu_rows.hpp"
 #include "shell/window/rows/tool_rows.hpp"
 #include "shell/window/rows/view_rows.hpp"
 
@@ -24,11 +25,12 @@ constexpr auto Joined(const std::array<CommandRow, Sizes>&... parts) {
   return all;
 }
 
-constexpr auto kRows = Joined(
-    rows::kFileStartRows, rows::kNewRows, rows::kFileOpenRows, rows::kHistoryRows, rows::kHistoryEndRows,
-    rows::kFileEndRows, rows::kEditRows, rows::kConversionRows, rows::kBracketRows, rows::kEditEndRows,
-    rows::kDayRows, rows::kInputMethodRows, rows::kSearchRows, rows::kHtmlRows, rows::kToolStartRows,
-    rows::kSlotRows, rows::kTemplateRows, rows::kViewRows, rows::kSettingRows, rows::kHelpRows);
+constexpr auto kRows =
+    Joined(rows::kFileStartRows, rows::kNewRows, rows::kFileOpenRows, rows::kHistoryRows,
+           rows::kHistoryEndRows, rows::kFileEndRows, rows::kEditRows, rows::kConversionRows,
+           rows::kBracketRows, rows::kEditEndRows, rows::kDayRows, rows::kInputMethodRows, rows::kSearchRows,
+           rows::kHtmlRows, rows::kToolStartRows, rows::kSlotRows, rows::kTemplateRows, rows::kViewRows,
+           rows::kSettingRows, rows::kHelpRows, rows::kTextMenuRows);
 
 constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 6> kNested = {
     {{rows::kBracketMenu, rows::kAdvanced2},
@@ -69,6 +71,8 @@ std::u16string_view TopMenuCaption(TopMenu menu) {
       return u"設定(&I)";
     case TopMenu::Help:
       return u"ﾍﾙﾌﾟ(&H)";
+    case TopMenu::Text:
+      break;
   }
   return u"";
 }

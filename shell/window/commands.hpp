@@ -10,7 +10,8 @@ namespace kestri {
 
 class EditorCommands;
 
-enum class TopMenu { File, Edit, Search, Html, Tool, View, Setting, Help };
+// Text is the text's own menu, which stands in no menu bar.
+enum class TopMenu { File, Edit, Search, Html, Tool, View, Setting, Help, Text };
 
 struct CommandRow {
   TopMenu menu;

@@ -6,12 +6,6 @@
 #include "tags/mode_at_caret.hpp"
 
 namespace kestri {
-namespace {
-
-constexpr char16_t kTab = 9;
-constexpr char16_t kControlBackspace = 127;
-
-}  // namespace
 
 bool EditorCommands::Writable() const {
   return !around_.text.Control().Locked();
@@ -73,7 +67,8 @@ void EditorCommands::OpenInNewWindow() {
 }
 
 void EditorCommands::OpenCurrentFolder() {
-  around_.common.ExecuteShow(around_.state.currentFolder, 1, u"");
+  if (!around_.common.ExecuteShow(around_.state.currentFolder, 1, u""))
+    around_.documentWindow.MessageToStatusBar(u"ﾌｫﾙﾀﾞを開けません");
 }
 
 std::u16string EditorCommands::HistoryEntry(int index) const {
@@ -83,7 +78,8 @@ std::u16string EditorCommands::HistoryEntry(int index) const {
 std::u16string EditorCommands::HistoryCaption(int index) const {
   const std::u16string path = HistoryEntry(index);
   const std::u16string shown = path.empty() ? u"(なし)" : around_.common.CFile2(path);
-  return u"&" + ToText(index) + u" ： " + Replace(shown, u"&", u"&&");
+  const std::u16string_view mnemonic = index < 10 ? u"&" : u"";
+  return std::u16string(mnemonic) + ToText(index) + u" ： " + Replace(shown, u"&", u"&&");
 }
 
 bool EditorCommands::HistoryShown(int index) const {
@@ -120,20 +116,6 @@ void EditorCommands::Edit(int index) {
   around_.text.Edit(index);
 }
 
-void EditorCommands::PressIntoText(char16_t keyAscii) {
-  if (around_.text.RefuseIfLocked()) return;
-  around_.text.KeyDown(0, 0);
-  around_.text.WM_CHAR(keyAscii, 0);
-}
-
-void EditorCommands::IndentMore() {
-  PressIntoText(kTab);
-}
-
-void EditorCommands::IndentLess() {
-  PressIntoText(kControlBackspace);
-}
-
 void EditorCommands::HTMLEdit(int index) {
   around_.html.HTMLEdit_Click(index);
 }
@@ -168,22 +150,24 @@ void EditorCommands::ColorEdit() {
   if (!color.empty()) around_.text.ReplaceSelHwnd(color, true, true);
 }
 
-bool EditorCommands::HasTemplate(int kind) const {
-  return around_.common.PathExists(TemplatePath(around_.common, static_cast<std::int16_t>(kind)));
-}
-
 void EditorCommands::EditTemplate(int kind) {
   if (!around_.document.ConfirmDiscard(u"開く")) return;
-  around_.document.OpenDocument(TemplatePath(around_.common, static_cast<std::int16_t>(kind)), ReadOnly::No);
+  const std::u16string path = TemplatePath(around_.common, kind);
+  if (TemplateExists(around_.common, kind)) {
+    around_.document.OpenDocument(path, ReadOnly::No);
+    return;
+  }
+  around_.document.SetDocumentText(u"", KeepModified::No);
+  around_.document.ApplyOpenedFile(path, ReadOnly::No, u"CR+LF");
 }
 
 void EditorCommands::OpenHelp(std::u16string_view fileName) {
   const std::u16string path =
       around_.common.Join(around_.common.Join(around_.common.ProgramFolder(), u"Help"), fileName);
-  if (around_.common.PathExists(path)) {
-    around_.common.ExecuteShow(path, 3, u"");
-  } else {
+  if (!around_.common.PathExists(path)) {
     around_.documentWindow.MessageToStatusBar(u"ﾍﾙﾌﾟﾌｧｲﾙが見つかりません");
+  } else if (!around_.common.ExecuteShow(path, 3, u"")) {
+    around_.documentWindow.MessageToStatusBar(u"ﾍﾙﾌﾟﾌｧｲﾙを開けません");
   }
 }
 

@@ -92,8 +92,6 @@ class EditorCommands {
   void Undo();
   void Redo();
   void Edit(int index);
-  void IndentMore();
-  void IndentLess();
 
   void HTMLEdit(int index);
   void CEdit(int index);
@@ -101,8 +99,7 @@ class EditorCommands {
   void CallUserInTo();
   void ColorEdit();
 
-  bool HasTemplate(int kind) const;
-  void EditTemplate(int kind);
+  void EditTemplate(int kind);  // an empty one when there is none yet
 
   TextTransforms& Transforms() const { return around_.transforms; }
   SaveSlots& Slots() const { return around_.slots; }
@@ -118,7 +115,6 @@ class EditorCommands {
   void ShowVersion();
 
  private:
-  void PressIntoText(char16_t keyAscii);
   std::u16string HistoryEntry(int index) const;
 
   Surroundings around_;

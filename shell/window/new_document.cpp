@@ -1,6 +1,8 @@
 #include "shell/window/new_document.hpp"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "document/document_template.hpp"
 
@@ -53,6 +55,12 @@ std::u16string StatusOf(std::u16string_view extension, bool templateRefused) {
   return u"新規作成 (" + std::u16string(blank ? u"白紙" : extension) + u")";
 }
 
+// Neither a path separator nor a control character.
+bool FitsInName(char16_t character) {
+  return character >= u' ' && (character < 0x7F || character > 0x9F) && character != u'/' &&
+         character != u'\\';
+}
+
 std::u16string FolderForNew(const ClassCommon& common, const ApplicationState& state) {
   return common.PathExists(state.currentFolder) ? state.currentFolder : common.GetSystemDirectory(5);
 }
@@ -66,8 +74,11 @@ std::optional<std::u16string> NewDocumentExtension(std::int16_t kind) {
 
 std::optional<std::u16string> AskExtension(InputBox& box) {
   const auto answer = box.Ask(u"拡張子を指定して下さい", u"新規作成 (拡張子のﾕｰｻﾞｰ指定)", u".txt");
-  if (!answer || answer->empty()) return std::nullopt;
-  return StartsWith(*answer, u".") ? *answer : u"." + *answer;
+  if (!answer) return std::nullopt;
+  std::u16string extension;
+  std::copy_if(answer->begin(), answer->end(), std::back_inserter(extension), FitsInName);
+  if (extension.find_first_not_of(u'.') == extension.npos) return std::nullopt;
+  return StartsWith(extension, u".") ? extension : u"." + extension;
 }
 
 bool NewText(std::int16_t kind, const ClassCommon& common, Document& document, DocumentWindow& window,

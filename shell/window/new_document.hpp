@@ -14,7 +14,8 @@ namespace kestri {
 // Extension with its dot by the kind's number; empty for a number without one, and for 11, which asks.
 std::optional<std::u16string> NewDocumentExtension(std::int16_t kind);
 
-// Kind 11: asks for the extension; a leading "." is added when missing. Nothing on cancel.
+// Kind 11: asks for the extension; a leading "." is added when missing. Path separators and control
+// characters are dropped. Nothing on cancel, and when nothing is left but dots.
 std::optional<std::u16string> AskExtension(InputBox& box);
 
 enum class UseTemplate { No, Yes };

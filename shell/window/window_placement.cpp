@@ -18,7 +18,7 @@ constexpr std::int32_t kSmallest = 3000;  // twips of a window that can still be
 
 PlacementAtStart PlacementOf(std::u16string_view startUpWindow) {
   if (startUpWindow == kDefault) return {.useSize = true};
-  if (startUpWindow == kRandom) return {};
+  if (startUpWindow == kRandom) return {.useSize = true};
   if (startUpWindow == kEveryMaximized || startUpWindow == kNowMaximized) {
     return {.useSize = true, .usePosition = true, .maximized = true};
   }

@@ -1,7 +1,9 @@
 #include "shell/window/window_settings.hpp"
 
 #include <algorithm>
+#include <limits>
 
+#include "document/settings_values.hpp"
 #include "document/trp_string.hpp"
 #include "shell/common/code_page.hpp"
 
@@ -12,6 +14,11 @@ constexpr char kSetting[] = "Setting";
 constexpr char kBar[] = "Bar";
 constexpr char kHint[] = "IMGTint";
 
+// What a window can still be used with.
+constexpr std::int32_t kSmallestFont = 4;  // points
+constexpr std::int32_t kLargestFont = 200;
+constexpr std::int32_t kLowestBar = 150;  // twips
+constexpr std::int32_t kHighestBar = 1500;
 constexpr std::int16_t kMostTabSpaces = 4;  // the largest level that the settings offer: 16 blanks
 
 void LoadEditing(SettingsReader& reader, ApplicationState& state) {
@@ -33,7 +40,7 @@ void LoadEditing(SettingsReader& reader, ApplicationState& state) {
 
 void LoadLook(SettingsReader& reader, WindowSettings& settings) {
   settings.fontName = reader.Text(kSetting, "FontName", u"ＭＳ ゴシック");
-  settings.fontSize = reader.Long(kSetting, "FontSize", 14);
+  settings.fontSize = std::clamp(reader.Long(kSetting, "FontSize", 14), kSmallestFont, kLargestFont);
   settings.colorLabel = reader.Text(kSetting, "ColorLabel", u"00. ﾃﾞﾌｫﾙﾄ");
   settings.eofMark = reader.Integer(kSetting, "EofMark", 1);
   settings.eofMarkType = reader.Integer(kSetting, "EofMarkType", 0);
@@ -41,16 +48,19 @@ void LoadLook(SettingsReader& reader, WindowSettings& settings) {
   settings.menIcon = reader.Integer(kSetting, "MenIcon", 1);
   settings.toolBarShow = reader.Integer(kBar, "ToolBarShow0", 1);
   settings.statusBarShow = reader.Integer(kBar, "StatusBar0", 1);
-  settings.statusBarHeight = reader.Long(kBar, "StatusBarHeight", 300);
+  settings.statusBarHeight = std::clamp(reader.Long(kBar, "StatusBarHeight", 300), kLowestBar, kHighestBar);
   settings.toolBar = ReadToolBarPlace(reader);
   settings.directoryTreeWidth = reader.Long(kBar, "DirectoryTreeWidth", 3000);
   settings.timerPeriod = std::clamp<std::int32_t>(reader.Integer(kSetting, "ClTimer", 2), 1, 5) * 50 + 1;
 }
 
+std::u16string StandardHintPicture(const ClassCommon& common) {
+  return common.Join(common.Join(common.ProgramFolder(), u"DataFiles"), u"HintFig_B.bmp");
+}
+
 void LoadHintCharacter(SettingsReader& reader, const ClassCommon& common, HintCharacter& character) {
-  const std::u16string folder = common.Join(common.ProgramFolder(), u"DataFiles");
   character.shown = reader.Integer(kHint, "IMGTint", 0);
-  character.picture = reader.Text(kHint, "IMGPath", common.Join(folder, u"HintFig_B.bmp"));
+  character.picture = reader.Text(kHint, "IMGPath", StandardHintPicture(common));
   character.fontSize = reader.Long(kHint, "FontSize", 9);
   character.fontStyle = reader.Integer(kHint, "FontStyle", 0);
   character.left = reader.Long(kHint, "LEFT", 150);
@@ -80,6 +90,10 @@ class SettingsWriter {
     if (value.empty()) return content_.DeleteKey(section, key);
     content_.Set(section, key, code_page::Encode(value));
   }
+  // A path that a profile file cannot hold leaves the one before.
+  void Path(const char* section, const char* key, std::u16string_view path) {
+    if (KeptAsValue(path)) Text(section, key, path);
+  }
   void Number(const char* section, const char* key, std::int64_t value) { Text(section, key, ToText(value)); }
 
  private:
@@ -87,7 +101,7 @@ class SettingsWriter {
 };
 
 void SaveEditing(SettingsWriter& writer, const ApplicationState& state) {
-  writer.Text(kSetting, "NawPath", state.currentFolder);
+  writer.Path(kSetting, "NawPath", state.currentFolder);
   writer.Number(kSetting, "htmlNAVkeyB_AUTO", state.htmlNAVkeyB_AUTO);
   writer.Number(kSetting, "htmlNAVkeyB", state.htmlNAVkeyB);
   writer.Number(kSetting, "htmlNAV", state.htmlNAV);
@@ -101,9 +115,10 @@ void SaveEditing(SettingsWriter& writer, const ApplicationState& state) {
   writer.Number(kSetting, "TabASeT", state.tabASeT);
 }
 
-void SaveHintCharacter(SettingsWriter& writer, const HintCharacter& character) {
+// The standard picture goes along with the program's folder, so its place is not written down.
+void SaveHintCharacter(SettingsWriter& writer, const ClassCommon& common, const HintCharacter& character) {
   writer.Number(kHint, "IMGTint", character.shown);
-  writer.Text(kHint, "IMGPath", character.picture);
+  if (character.picture != StandardHintPicture(common)) writer.Path(kHint, "IMGPath", character.picture);
   writer.Number(kHint, "FontSize", character.fontSize);
   writer.Number(kHint, "FontStyle", character.fontStyle);
   writer.Number(kHint, "LEFT", character.left);
@@ -131,6 +146,7 @@ std::optional<WindowSettings> LoadWindowSettings(const ClassCommon& common, Appl
   LoadLook(reader, settings);
   LoadHintCharacter(reader, common, settings.hintCharacter);
   LoadPlacement(reader, settings);
+  reader.Long(kSetting, "Act", 0);  // counted later; an unusable count is damage like any other
   if (reader.Damaged()) return std::nullopt;
   state.currentFolder = settings.workingFolder;
   return settings;
@@ -143,9 +159,10 @@ void SaveFont(const ClassCommon& common, const WindowSettings& settings) {
 
 void CountStart(const ClassCommon& common) {
   common.Profiles().Update(common.IniPath(0, common.ExeName()), [](ProfileContent& content) {
-    const std::string starts = content.Get(kSetting, "Act").value_or("0");
-    SettingsWriter(content).Number(kSetting, "Act",
-                                   std::int64_t{ToLong(code_page::Decode(starts)).value_or(0)} + 1);
+    const std::string text = content.Get(kSetting, "Act").value_or("0");
+    const std::int64_t starts = ToLong(code_page::Decode(text)).value_or(0);
+    constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+    SettingsWriter(content).Number(kSetting, "Act", std::min(starts + 1, kMost));
   });
 }
 
@@ -154,7 +171,7 @@ void SaveWindowSettings(const ClassCommon& common, const ApplicationState& state
   common.Profiles().Update(common.IniPath(0, common.ExeName()), [&](ProfileContent& content) {
     SettingsWriter writer(content);
     SaveEditing(writer, state);
-    SaveHintCharacter(writer, settings.hintCharacter);
+    SaveHintCharacter(writer, common, settings.hintCharacter);
     writer.Text(kSetting, "FontName", settings.fontName);
     writer.Number(kSetting, "FontSize", settings.fontSize);
     writer.Number(kSetting, "MenuAnimation", state.menuAnimation);

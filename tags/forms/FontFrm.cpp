@@ -84,6 +84,11 @@ void FontFrm::BuildStyles() {
   italic_->setObjectName(QStringLiteral("Check1_1"));
 }
 
+void FontFrm::OfferStyles(bool offered) {
+  bold_->setVisible(offered);
+  italic_->setVisible(offered);
+}
+
 void FontFrm::BuildSample() {
   flb_ = new QLabel(QStringLiteral("ABC 123 あいう"));
   flb_->setObjectName(QStringLiteral("FLB"));

@@ -23,6 +23,7 @@ class FontFrm : public QDialog {
   // The rows that come closest to the wanted font.
   void LoadValues(const FontChoice& wanted);
   FontChoice Shown() const;  // as the fields stand
+  void OfferStyles(bool offered);
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -25,6 +25,7 @@ bool ClassFontDialog::ShowFont(QWidget* owner) {
   if (form_ == nullptr) form_ = new FontFrm(screenFonts_);
   form_->setWindowTitle(ToQt(caption_));
   form_->LoadValues(choice_);
+  form_->OfferStyles(stylesOffered_);
   const Picked picked = RunPicker(form_.data(), owner);
   if (picked == Picked::Yes) choice_ = form_->Shown();
   SetForegroundWindow(window);

@@ -30,6 +30,9 @@ class ClassFontDialog {
   const std::u16string& Caption() const { return caption_; }
   void SetCaption(std::u16string_view caption) { caption_ = caption; }
 
+  // For a use that knows names and sizes only; otherwise bold and italic can be chosen.
+  void SetStylesOffered(bool offered) { stylesOffered_ = offered; }
+
   // True when the user chose: the properties carry the choice, else they stay. The owner's window is active
   // again afterwards.
   bool ShowFont(QWidget* owner);
@@ -38,6 +41,7 @@ class ClassFontDialog {
   ScreenFonts screenFonts_;
   FontChoice choice_;
   std::u16string caption_ = u"ﾌｫﾝﾄの選択";
+  bool stylesOffered_ = true;
   QPointer<FontFrm> form_;
 };
 

@@ -6,11 +6,14 @@
 #include "shell/startup/forms/toolkit_setup.hpp"
 
 int main(int argc, char** argv) {
+  // Before the toolkit looks at it: every word belongs to the one path or switch.
+  const auto arguments = std::span<char* const>(argv, static_cast<std::size_t>(argc)).subspan(1);
+  const std::u16string commandLine = kestri::RawCommandLine(arguments);
   kestri::PrepareEnvironment();
-  QApplication application(argc, argv);
+  int programOnly = 1;
+  QApplication application(programOnly, argv);
   kestri::PrepareLook();
   kestri::EditorProcess process;
-  const auto arguments = std::span<char* const>(argv + 1, static_cast<std::size_t>(argc - 1));
-  if (process.Start(kestri::RawCommandLine(arguments)) == kestri::ProcessFate::Ends) return 0;
+  if (process.Start(commandLine) == kestri::ProcessFate::Ends) return 0;
   return QApplication::exec();
 }

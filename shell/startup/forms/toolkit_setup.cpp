@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QIcon>
 #include <QLocale>
+#include <csignal>
 
 #include "ui/editor_style.hpp"
 
@@ -11,6 +12,7 @@ namespace kestri {
 
 void PrepareEnvironment() {
   qputenv("QT_XCB_GL_INTEGRATION", "none");
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 void PrepareLook() {

@@ -183,9 +183,9 @@ inline constexpr std::array kEditRows = {
                [](C& c) { c.Edit(6); }},
     Separator(TopMenu::Edit),
     CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 0, u"ｲﾝﾃﾞﾝﾄ ﾚﾍﾞﾙ +1\tTab", 1029, "",
-               "format-indent-more", kWritable, [](C& c) { c.IndentMore(); }},
+               "format-indent-more", kWritable, [](C& c) { c.Transforms().HighEdit(0); }},
     CommandRow{TopMenu::Edit, kAdvanced1, "HighEdit", 1, u"ｲﾝﾃﾞﾝﾄ ﾚﾍﾞﾙ -1\tCtrl+Bksp", 1030, "",
-               "format-indent-less", Ask<&C::HasSelectionToCut>, [](C& c) { c.IndentLess(); }},
+               "format-indent-less", Ask<&C::HasSelectionToCut>, [](C& c) { c.Transforms().HighEdit(1); }},
 };
 
 }  // namespace kestri::rows

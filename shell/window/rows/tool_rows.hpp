@@ -90,22 +90,21 @@ constexpr CommandRow ExternalProgramRow() {
 
 template <int Kind>
 constexpr CommandRow TemplateRow(std::u16string_view caption) {
-  return {TopMenu::Tool,
-          kTemplateMenu,
-          "TmpLEdit",
-          Kind,
-          caption,
-          1068,
-          "",
-          "",
-          [](const C& c) { return c.HasTemplate(Kind); },
-          [](C& c) { c.EditTemplate(Kind); }};
+  return {TopMenu::Tool, kTemplateMenu, "TmpLEdit", Kind, caption, 1068, "", "", kAlways, [](C& c) {
+            c.EditTemplate(Kind);
+          }};
 }
 
 inline constexpr std::array kTemplateRows = {TemplateRow<1>(u"ﾃｷｽﾄ型 (*.txt)(&1)"),
                                              TemplateRow<2>(u"HTML型 (*.htm)(&2)"),
                                              TemplateRow<3>(u"HTML型 詳細設定済み (*.htm)(&3)"),
                                              TemplateRow<4>(u"CSS型 (*.css)(&4)"),
+                                             TemplateRow<5>(u"Cｿｰｽ型 (*.c)(&5)"),
+                                             TemplateRow<6>(u"Cﾍｯﾀﾞｰ型 (*.h)(&6)"),
+                                             TemplateRow<7>(u"ﾊﾞｯﾁ型 (*.bat)(&7)"),
+                                             TemplateRow<8>(u"INI型 (*.ini)(&8)"),
+                                             TemplateRow<9>(u"JAVA型 (*.java)(&9)"),
+                                             TemplateRow<12>(u"VBScript型 (*.vbs)(&V)"),
                                              TemplateRow<13>(u"ReadMe型 (*.txt)(&R)"),
                                              TemplateRow<14>(u"AsciiArt下書き型 (*.aat)(&A)")};
 

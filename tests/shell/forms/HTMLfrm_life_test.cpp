@@ -57,6 +57,7 @@ TEST_F(Life, LoadSetsTheMenuAnimationAndTheLastCloseBringsItBack) {
 TEST_F(Life, CloseBesideAnotherProcessLeavesAnimationsAndLog) {
   desk.environment.processes = {desk.folder.Text(u"Kestri"), desk.folder.Text(u"Kestri")};
   desk.Open();
+  desk.common->SetINIex(2, desk.folder.Text(u"Kestri_TEMP_FileLog.INI"), u"HWND", u"002HWND", u"4712");
   desk.effects.calls.clear();
   desk.window->close();
   EXPECT_TRUE(desk.effects.calls.empty());
@@ -73,7 +74,7 @@ TEST_F(Life, CloseWritesEveryKeyThatItRemembers) {
   }
   for (const char16_t* key : {u"Dkg", u"FileInfo", u"DirectoryTreeWidth"})
     EXPECT_NE(Kept(u"Bar", key), u"(unset)") << ToUtf8(key);
-  for (const char16_t* key : {u"IMGTint", u"IMGPath", u"FontSize", u"FontStyle", u"LEFT", u"TOP", u"Worp"})
+  for (const char16_t* key : {u"IMGTint", u"FontSize", u"FontStyle", u"LEFT", u"TOP", u"Worp"})
     EXPECT_NE(Kept(u"IMGTint", key), u"(unset)") << ToUtf8(key);
   EXPECT_EQ(Kept(u"Setting", u"StartUpWindow"), u"(unset)") << "the default placement remembers nothing";
 }
@@ -192,14 +193,74 @@ TEST_F(Life, CommandsOfAbsentSubsystemsAreSeenAndDoNothing) {
   EXPECT_EQ(desk.Row(), "text‸");
 }
 
-TEST_F(Life, TemplateOfAKindCanBeEditedOnceItIsThere) {
+TEST_F(Life, TemplateKeepsItsCaretMarkThroughAnEdit) {
+  desk.folder.Write("DataFiles/NewData2.fmtdat", "<TITLE>\t</TITLE>\r\n");
   desk.Open();
-  EXPECT_FALSE(desk.window->Commands().MayRun(*FindCommand("TmpLEdit", 2)));
-  desk.folder.Write("DataFiles/NewData2.fmtdat", "<HTML>\r\n");
-  EXPECT_TRUE(desk.window->Commands().MayRun(*FindCommand("TmpLEdit", 2)));
   desk.Run("TmpLEdit", 2);
-  EXPECT_EQ(desk.Row(), "‸<HTML>");
-  EXPECT_EQ(desk.state.currentFile, desk.folder.Text(u"DataFiles/NewData2.fmtdat"));
+  EXPECT_EQ(desk.Row(), "‸<TITLE>\t</TITLE>");
+  desk.Press(u"{Tab}{Backspace}x{Ctrl+S}");
+  EXPECT_EQ(desk.folder.Read("DataFiles/NewData2.fmtdat"), "x<TITLE>\t</TITLE>\r\n");
+  desk.Press(u"{Ctrl+N}");
+  EXPECT_EQ(desk.Row(), "x<TITLE>‸</TITLE>");
+  desk.Press(u"{Tab}");
+  EXPECT_EQ(desk.Row(), "x<TITLE>    ‸</TITLE>") << "other documents have blanks again";
+}
+
+TEST_F(Life, MissingTemplateBeginsEmptyUnderItsName) {
+  desk.Open();
+  desk.Run("TmpLEdit", 7);
+  EXPECT_EQ(desk.Row(), "‸");
+  EXPECT_EQ(desk.state.currentFile, u"NewData7.fmtdat");
+}
+
+TEST_F(Life, ReportsCanBeReadWhole) {
+  desk.Open();
+  desk.Put(u"あいう‸");
+  desk.Run("SearEdit", 6);
+  QApplication::processEvents();
+  const auto panes = desk.window->Panes().findChildren<StatusPane*>();
+  for (const StatusPane* pane : panes) {
+    if (pane->Text().startsWith(QStringLiteral("現在の"))) {
+      EXPECT_GE(pane->width(), pane->WidthOf(pane->Text()));
+    }
+  }
+  EXPECT_EQ(std::count_if(panes.begin(), panes.end(),
+                          [](const StatusPane* pane) { return pane->Text().startsWith(u"現在の"); }),
+            1);
+}
+
+TEST_F(Life, UnusableNumbersAreBroughtIntoReach) {
+  desk.Set(u"Setting", u"FontSize", u"-5");
+  desk.Set(u"Bar", u"StatusBarHeight", u"9999999");
+  const auto settings = LoadWindowSettings(*desk.common, desk.state);
+  ASSERT_TRUE(settings.has_value());
+  EXPECT_EQ(settings->fontSize, 4);
+  EXPECT_EQ(settings->statusBarHeight, 1500);
+}
+
+TEST_F(Life, SubmenuTitleTakesTheHintOfTheItemBeforeAway) {
+  HTMLfrm& window = desk.Open();
+  window.Commands().Menu(TopMenu::File);
+  window.Commands().Action(*FindCommand("MenFileM", 0))->hover();
+  window.Commands().Submenu(u"最近使用したﾌｧｲﾙを開く").menuAction()->hover();
+  EXPECT_EQ(desk.Pane(StatusPanes::kMessage), "");
+}
+
+TEST_F(Life, OnlyTheFirstTenOfTheHistoryHaveADigitToPress) {
+  for (int i = 10; i < 12; ++i)
+    desk.Set(u"FileReg", u"FileReg" + FormatZeros(i, 2), u"/d/file" + ToText(i) + u".htm");
+  desk.Open();
+  EXPECT_TRUE(desk.window->CommandTarget().HistoryCaption(9).starts_with(u"&9"));
+  EXPECT_TRUE(desk.window->CommandTarget().HistoryCaption(10).starts_with(u"10 ： "));
+}
+
+TEST_F(Life, MaximizedCloseKeepsTheEarlierRectangle) {
+  desk.Set(u"Setting", u"StartUpWindow", u"NAW");
+  desk.Set(u"Setting", u"HTMLfrmWidth", u"6000");
+  HTMLfrm& window = desk.Open();
+  window.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+  window.close();
+  EXPECT_EQ(Kept(u"Setting", u"HTMLfrmWidth"), u"6000");
 }
 
 }  // namespace

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 
 #include "shell/common/code_page.hpp"
 #include "tests/fakes/screens.hpp"
@@ -319,6 +322,44 @@ TEST_F(HTMLfrmTest, EnterOnTheLastRowInSightScrolls) {
   for (int i = 0; i < 60; ++i) desk.Press(u"a{Enter}");
   QApplication::processEvents();
   EXPECT_NE(desk.window->TextView().GetCaretPixel(), QPoint(-9999, -9999));
+}
+
+TEST_F(HTMLfrmTest, TheDialogsOfTheInsertMenusStandOverTheEditor) {
+  desk.Open();
+  desk.Run("MenTool", 0);
+  auto* form = desk.window->findChild<EditSubFrm*>();
+  ASSERT_NE(form, nullptr);
+  for (const int menu : {1, 2}) {
+    QWidget* owner = nullptr;
+    QTimer::singleShot(100, [&owner] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr);
+      owner = dialog->parentWidget();
+      dialog->close();
+    });
+    form->findChild<QMenuBar*>()->actions().at(menu)->menu()->actions().back()->trigger();
+    EXPECT_EQ(owner, desk.window.get());
+  }
+}
+
+TEST_F(HTMLfrmTest, TheTextsOwnMenuOffersTheFreeIndentWhichNoOtherMenuRepeats) {
+  desk.Open();
+  QStringList shown;
+  QTimer::singleShot(100, [&shown] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* action : menu->actions()) shown += action->objectName();
+    menu->close();
+  });
+  QContextMenuEvent rightClick(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+  QApplication::sendEvent(desk.window->TextView().viewport(), &rightClick);
+  EXPECT_EQ(shown.count(QStringLiteral("mnuFreeInd0")), 1);
+  EXPECT_EQ(FindCommand("mnuFreeInd", 0)->caption, FindCommand("HighEdit", 2)->caption);
+  for (const QAction* top : desk.window->menuBar()->actions()) {
+    Q_EMIT top->menu()->aboutToShow();
+    for (const QAction* action : top->menu()->actions())
+      EXPECT_NE(action->objectName(), QStringLiteral("mnuFreeInd0"));
+  }
 }
 
 TEST_F(HTMLfrmTest, TheLineEndMenuNamesThePresentKind) {

@@ -146,6 +146,19 @@ TEST_F(Refusal, FailuresOfTheEnvironmentAreCollectedInOneBox) {
       u"\r\n・SYSTEMﾌｫﾙﾀﾞがﾙｰﾄに設定されている時は起動できません");
 }
 
+TEST_F(Refusal, AProgramInTheRootIsToldSo) {
+  environment.executable = u"/Kestri";
+  EXPECT_EQ(Start(u""), ClassMain::kEnd);
+  ExpectBox(MessageIcon::Critical, u"Kestrile", u"\r\n・ﾙｰﾄでは起動できません");
+}
+
+TEST_F(Refusal, ANameThatEndsInABlankIsOpenedWhole) {
+  folder.Write("trail.txt ", "x\r\n");
+  EXPECT_EQ(Start(folder.Text(u"trail.txt ")), ClassMain::kLive);
+  EXPECT_TRUE(boxes.asked.empty());
+  EXPECT_EQ(std::count(windows.steps.begin(), windows.steps.end(), "open " + Path("trail.txt ")), 1);
+}
+
 TEST_F(Refusal, OneProcessTooManyIsRefused) {
   environment.processes.assign(6, environment.executable);
   ExpectRefused(u"\"Kestri\"は 5個以上起動できないように設定されています");

@@ -69,6 +69,24 @@ TEST_F(NewDocument, UserDefinedKindAsksForItsExtension) {
   EXPECT_EQ(ToUtf8(state.currentFile), "無題.log");
 }
 
+TEST_F(NewDocument, WhatNoNameMayHoldIsDroppedFromTheAskedExtension) {
+  const std::pair<std::u16string, const char*> answers[] = {{u"../../etc/x", "....etcx"},
+                                                            {u"..\\a\\b", "..ab"},
+                                                            {u"\tht\r\nm\x7F\x85l", ".html"},
+                                                            {u"表計算", ".表計算"}};
+  for (const auto& [answer, extension] : answers) {
+    box.answer = answer;
+    EXPECT_EQ(ToUtf8(AskExtension(box).value_or(u"(none)")), extension);
+  }
+}
+
+TEST_F(NewDocument, NothingButDotsAndSeparatorsIsACancel) {
+  for (const std::u16string_view answer : {u".", u"..", u"/", u"./\\", u"\t"}) {
+    box.answer = answer;
+    EXPECT_EQ(AskExtension(box), std::nullopt) << ToUtf8(answer);
+  }
+}
+
 TEST_F(NewDocument, EmptyAnswerOrCancelLeavesTheDocumentAsItWas) {
   MakeFile("a.txt", "abc\r\n");
   ASSERT_TRUE(Open(Work("a.txt")));

@@ -14,7 +14,7 @@ TEST(PlacementAtStart, DefaultKeepsThePositionOfTheSystemAndTakesTheSize) {
 
 TEST(PlacementAtStart, RandomMovesNothing) {
   const PlacementAtStart placement = PlacementOf(u"RAND");
-  EXPECT_FALSE(placement.useSize);
+  EXPECT_TRUE(placement.useSize);
   EXPECT_FALSE(placement.usePosition);
 }
 

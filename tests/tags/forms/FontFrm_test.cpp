@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <set>
 
 #include "platform/qt/qt_text.hpp"
 #include "shell/common/text.hpp"
@@ -264,7 +265,19 @@ TEST_F(FontQuestion, AnOwnerThatGoesMeanwhileTakesTheFormWithIt) {
 TEST(ScreenFonts, AreThoseOfTheToolkit) {
   const std::vector<std::u16string> names = ScreenFontFamilies();
   EXPECT_FALSE(names.empty());
-  for (const std::u16string& name : names) EXPECT_FALSE(name.empty());
+  std::set<std::u16string> seen;
+  for (const std::u16string& name : names) {
+    EXPECT_FALSE(name.empty());
+    EXPECT_EQ(name.find(u" ["), name.npos) << ToUtf8(name);
+    EXPECT_TRUE(seen.insert(name).second) << ToUtf8(name);
+  }
+}
+
+TEST(ScreenFonts, AreNamedOnceAndWithoutTheirFoundry) {
+  EXPECT_EQ(
+      NamesWithoutFoundry({QStringLiteral("C059 [urw]"), QStringLiteral("C059 [other]"),
+                           QStringLiteral("IPAゴシック"), QStringLiteral("C059"), QStringLiteral("A[1]")}),
+      (std::vector<std::u16string>{u"C059", u"IPAゴシック", u"A[1]"}));
 }
 
 }  // namespace
