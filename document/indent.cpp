@@ -1,7 +1,8 @@
 #include "document/indent.hpp"
 
+#include <algorithm>
+
 #include "shell/common/text.hpp"
-#include "shell/common/unit_search.hpp"
 
 namespace kestri {
 namespace {
@@ -13,13 +14,13 @@ bool IsIndent(char16_t unit) {
 // Calls work with each line of the block, its line end included.
 template <typename Work>
 void ForEachLine(std::u16string_view block, Work work) {
-  for (std::size_t from = 0; from <= block.size();) {
-    const std::size_t end = unit_search::Find(block, kCrLf, from);
-    const std::size_t next = end == block.npos ? block.size() : end + kCrLf.size();
-    work(block.substr(from, next - from));
-    if (end == block.npos) return;
-    from = next;
+  std::size_t from = 0;
+  for (std::size_t at = 1; at < block.size(); ++at) {
+    if (block[at] != u'\n' || block[at - 1] != u'\r') continue;
+    work(block.substr(from, at + 1 - from));
+    from = at + 1;
   }
+  work(block.substr(from));
 }
 
 }  // namespace
@@ -32,9 +33,11 @@ Position IndentEnd(const EditControl& control, Position from, Position end) {
 std::u16string IndentBlock(std::u16string_view block, std::u16string_view level) {
   std::size_t lines = 0;
   ForEachLine(block, [&lines](std::u16string_view) { ++lines; });
-  std::u16string result;
-  result.reserve(block.size() + lines * level.size());
-  ForEachLine(block, [&](std::u16string_view line) { result.append(level).append(line); });
+  std::u16string result(block.size() + lines * level.size(), u'\0');
+  auto out = result.begin();
+  ForEachLine(block, [&](std::u16string_view line) {
+    out = std::copy(line.begin(), line.end(), std::copy(level.begin(), level.end(), out));
+  });
   return result;
 }
 

@@ -126,6 +126,7 @@ class MainText {
   void SmartHome();
 
   bool ConvertsTabs() const;
+  std::u16string_view Expanded(std::u16string_view text, std::u16string& storage) const;
   bool NavigationAllowed() const;
   bool RefusedByAsciiArt();
   void OpenPopup(std::int32_t mode, char16_t key);

@@ -26,12 +26,21 @@ void MainText::ReplaceSelRaw(std::u16string_view text, bool redraw, bool scroll)
   if (scroll) control_.EM_SCROLLCARET();
 }
 
+// A text without tabs goes in as it is, without a copy.
+std::u16string_view MainText::Expanded(std::u16string_view text, std::u16string& storage) const {
+  if (!ConvertsTabs() || text.find(u'\t') == text.npos) return text;
+  storage = ExpandTabs(text);
+  return storage;
+}
+
 void MainText::ReplaceSelHwnd(std::u16string_view text, bool redraw, bool scroll) {
-  ReplaceSelRaw(ExpandTabs(text), redraw, scroll);
+  std::u16string storage;
+  ReplaceSelRaw(Expanded(text, storage), redraw, scroll);
 }
 
 void MainText::ReplaceSelKeep(std::u16string_view text, bool redraw, bool scroll) {
-  const std::u16string inserted = ExpandTabs(text);
+  std::u16string storage;
+  const std::u16string_view inserted = Expanded(text, storage);
   ReplaceSelRaw(inserted, redraw, scroll);
   if (!inserted.empty()) {
     const Position end = control_.SelStart();
