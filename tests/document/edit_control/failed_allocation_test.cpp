@@ -15,16 +15,17 @@ int allocationsLeft = -1;  // until one fails; negative: none does
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Not inlined: the compiler would take the pair of malloc and free for a mismatch with the library's own.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   if (allocationsLeft == 0) throw std::bad_alloc();
   if (allocationsLeft > 0) --allocationsLeft;
   if (void* block = std::malloc(size == 0 ? 1 : size)) return block;
   throw std::bad_alloc();
 }
-void operator delete(void* block) noexcept {
+[[gnu::noinline]] void operator delete(void* block) noexcept {
   std::free(block);
 }
-void operator delete(void* block, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
   std::free(block);
 }
 
