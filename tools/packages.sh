@@ -3,7 +3,7 @@
 KESTRI_PACKAGES=(
   # build
   g++ clang-14 libclang-rt-14-dev cmake ninja-build ccache pkg-config
-  qt6-base-dev libqt6svg6-dev
+  qt6-base-dev qt6-svg-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   libxcb1-dev libxcb-damage0-dev libxcb-xtest0-dev libxcb-keysyms1-dev
   # program: Japanese fonts, icons, the toolkit's Japanese words, file types, opening files
