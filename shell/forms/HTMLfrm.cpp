@@ -23,7 +23,15 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
       text_(control_, services_.state, services_.common, *this, tagServices_, services_.clipboard,
             services_.boxes),
       view_(new EditView(control_, text_, this)),
+      labelText_(new LabelText(
+          *view_, [this] { return view_->viewport()->geometry(); },
+          {.points = settings_.hintCharacter.fontSize, .style = settings_.hintCharacter.fontStyle})),
       caretPlace_(*view_),
+      hints_({.control = control_,
+              .common = services_.common,
+              .place = caretPlace_,
+              .box = *labelText_,
+              .wrap = settings_.hintCharacter.wrap}),
       document_(control_, services_.state, services_.common, services_.boxes, services_.dialogs, *this,
                 services_.fallbacks),
       popupForm_(this),
@@ -33,7 +41,7 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
               .host = *this,
               .view = popupForm_,
               .place = caretPlace_,
-              .hints = *this,
+              .hints = hints_,
               .tagAnalyse = {},
               .screenFonts = &ScreenFontFamilies,
               .paintStatus = [this] { panes_->repaint(); }}),
@@ -43,7 +51,7 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
              .host = *this,
              .popup = popup_,
              .place = caretPlace_,
-             .hints = *this,
+             .hints = hints_,
              .tagAnalyse = {}}),
       transforms_(text_, services_.state, services_.common, *this),
       slots_(control_, services_.state, services_.common, document_, *this),
@@ -67,15 +75,11 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
       fileList_(services_.common, *this),
       resources_(services_.common) {
   tagServices_.AttachPopup(&popup_);
-  tagServices_.AttachHints(this);
+  tagServices_.AttachHints(&hints_);
+  ConnectHint();
   popupForm_.Attach(&popup_);
   fonts_.SetStylesOffered(false);
   setCentralWidget(view_);
-  labelText_ = new QLabel(view_);
-  labelText_->setAutoFillBackground(true);
-  labelText_->setFrameShape(QFrame::StyledPanel);
-  labelText_->setMargin(12);
-  labelText_->hide();
   Tell(u"ﾒﾓﾘ初期化中...");
   BuildMenus();
   Tell(u"ｱﾌﾟﾘｹｰｼｮﾝ設定中...");
@@ -107,7 +111,20 @@ HTMLfrm::~HTMLfrm() {
 
 void HTMLfrm::Tell(std::u16string_view stage) {
   if (services_.progress != nullptr) services_.progress->Show(stage);
-  labelText_->setText(ToQt(stage));
+  labelText_->SetText(stage);
+}
+
+void HTMLfrm::ConnectHint() {
+  caretPlace_.hintBox = [this] { return HintRectangle(); };
+  labelText_->pressed = [this] {
+    hints_.DismissHint();
+    view_->setFocus();
+  };
+}
+
+QRect HTMLfrm::HintRectangle() const {
+  if (!labelText_->isVisible()) return {};
+  return {labelText_->mapToGlobal(QPoint()), labelText_->size()};
 }
 
 void HTMLfrm::BuildMenus() {

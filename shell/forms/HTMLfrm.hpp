@@ -1,7 +1,6 @@
 // HTMLfrm: the editor window. It shows state and passes events; the rules live in the logic it owns.
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QTimer>
 #include <memory>
@@ -25,10 +24,12 @@
 #include "shell/window/load_progress.hpp"
 #include "shell/window/window_settings.hpp"
 #include "tags/forms/InToTAGFrm.hpp"
+#include "tags/forms/LabelText.hpp"
 #include "tags/forms/class_color.hpp"
 #include "tags/forms/class_font_dialog.hpp"
 #include "tags/forms/view_caret_place.hpp"
 #include "tags/html_edit_commands.hpp"
+#include "tags/tag_hint.hpp"
 #include "tags/tag_services.hpp"
 #include "ui/edit_view.hpp"
 #include "ui/program_resources.hpp"
@@ -42,8 +43,7 @@ class HTMLfrm : public QMainWindow,
                 private DocumentWindow,
                 private EditorWindow,
                 private SwitchedWindow,
-                private FileListWindow,
-                private TagHints {
+                private FileListWindow {
  public:
   struct Services {
     const ClassCommon& common;
@@ -106,6 +106,8 @@ class HTMLfrm : public QMainWindow,
 
   void ApplyFont();
   void TimeP();
+  void ConnectHint();
+  QRect HintRectangle() const;  // pixels of the screen; empty while no hint is up
   std::u16string CaretText() const;
 
   // MainTextHost, DocumentWindow
@@ -164,21 +166,15 @@ class HTMLfrm : public QMainWindow,
   bool OpenFromList(std::u16string_view path) override { return OpenDocument(path); }
   bool NewFromList(std::int16_t kind) override;
 
-  // TagHints. Hints do not follow the caret; a text that must be told stands in a tool tip at the caret.
-  bool HintVisible() override { return false; }
-  void seTagHide() override {}
-  void seTagHint() override {}
-  bool seTagHintPriSet() override { return false; }
-  void DismissHint() override {}
-  void TipComments(std::u16string_view text) override;
-
   Services services_;
   WindowSettings settings_;
   EditControl control_;
   TagServices tagServices_;
   MainText text_;
   EditView* view_;
+  LabelText* labelText_;
   ViewCaretPlace caretPlace_;
+  TagHint hints_;
   Document document_;
   InToTAGFrm popupForm_;
   InToTAG popup_;
@@ -199,7 +195,6 @@ class HTMLfrm : public QMainWindow,
   ToolBar* toolBar_ = nullptr;
   Toolbar1* floatingBar_ = nullptr;
   StatusPanes* panes_ = nullptr;
-  QLabel* labelText_ = nullptr;  // what the window says over its text
   QTimer timeP_;
   QString iconName_;     // of the document's kind, in the icon theme
   bool loaded_ = false;  // pictures may be read

@@ -3,7 +3,6 @@
 #include <QCursor>
 #include <QMenu>
 #include <QProcess>
-#include <QToolTip>
 
 #include "platform/qt/qt_text.hpp"
 #include "shell/forms/HTMLfrm.hpp"
@@ -99,12 +98,9 @@ void HTMLfrm::RefreshStatus() {
 
 void HTMLfrm::DocumentChanged() {
   popup_.Deactivate();
+  hints_.seTagHide();
   ResetCaretMemo();
   PaintTextDecor(Decor::Full);
-}
-
-void HTMLfrm::TipComments(std::u16string_view text) {
-  QToolTip::showText(view_->viewport()->mapToGlobal(view_->CaretRect().bottomLeft()), ToQt(text), view_);
 }
 
 }  // namespace kestri

@@ -27,7 +27,8 @@ void HTMLfrm::TimeP() {
   toolBar_->RefreshStates();
   if (!view_->hasFocus()) return;
   panes_->SetPane(StatusPanes::kCaret, ToQt(CaretText()));
-  tagServices_.seTagHint();
+  const bool follows = services_.state.fileKind == kFileTypeHtml && services_.state.htmlNAVkeyB_AUTO == 1;
+  if (follows || hints_.HintVisible()) hints_.seTagHint();
 }
 
 std::u16string HTMLfrm::CaretText() const {
@@ -72,10 +73,11 @@ void HTMLfrm::EndOfSession(QSessionManager& session) {
 }
 
 void HTMLfrm::ShowClosing() {
-  labelText_->setText(QStringLiteral(" しばらく待ちください...\n閉じています..."));
+  labelText_->SetText(u" しばらく待ちください...\r\n閉じています...");
   const QSize size = labelText_->sizeHint();
   MoveEx(*labelText_, (view_->width() - size.width()) / 2, (view_->height() - size.height()) / 2,
          size.width(), size.height());
+  labelText_->raise();
   labelText_->show();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

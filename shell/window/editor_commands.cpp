@@ -120,6 +120,10 @@ void EditorCommands::HTMLEdit(int index) {
   around_.html.HTMLEdit_Click(index);
 }
 
+void EditorCommands::HTMLEditHINTS() {
+  around_.html.HTMLEditHINTS();
+}
+
 void EditorCommands::CEdit(int index) {
   around_.html.CEdit_Click(index);
 }

@@ -94,6 +94,7 @@ class EditorCommands {
   void Edit(int index);
 
   void HTMLEdit(int index);
+  void HTMLEditHINTS();
   void CEdit(int index);
   void CandidatesAtCaret();
   void CallUserInTo();
