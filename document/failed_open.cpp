@@ -1,5 +1,6 @@
 // What the user is told and offered when a file did not open as text.
 #include "document/document.hpp"
+#include "shell/common/image_viewer.hpp"
 #include "shell/common/text.hpp"
 
 namespace kestri {
@@ -84,7 +85,7 @@ std::u16string Document::OfferWordProcessor(const std::u16string& path) {
 
 // The sibling viewer where it is installed, else the desktop's own.
 std::u16string Document::ShowPicture(const std::u16string& path) {
-  const std::u16string viewer = common_.Join(common_.AppPath(common_.ProgramFolder()), u"PicPeek.exe");
+  const std::u16string viewer = SiblingImageViewer(common_);
   if (common_.PathExists(viewer)) {
     Execute(viewer, path);
   } else {

@@ -14,9 +14,8 @@ constexpr std::int16_t kDefaultInstanceLimit = 5;
 std::int32_t ClassMain::Main(std::u16string_view commandLine) {
   SetBusyPointer(true);
   ResetState();
-  WarnOfSystem();
-  DecideSplash(commandLine);
-  const std::int32_t result = MayStart() ? Dispatch(commandLine) : kEnd;
+  const bool ready = WarnOfSystem() && DecideSplash(commandLine) && MayStart();
+  const std::int32_t result = ready ? Dispatch(commandLine) : kEnd;
   SetBusyPointer(false);
   return result;
 }
@@ -32,19 +31,25 @@ void ClassMain::ResetState() {
   state_.modifiedShown = 0;
 }
 
-void ClassMain::WarnOfSystem() {
+bool ClassMain::WarnOfSystem() {
   state_.osType = common_.GetOSType();
-  if (IsSupportedSystem(state_.osType) || Setting(u"RunArt", u"RunArt", 0) != 0) return;
+  if (IsSupportedSystem(state_.osType)) return true;
+  const auto known = Setting(u"RunArt", u"RunArt", 0);
+  if (!known) return false;
+  if (*known != 0) return true;
   SetBusyPointer(false);
   windows_.ShowOsWarning(kOsWarning);
   SetBusyPointer(true);
+  return true;
 }
 
-void ClassMain::DecideSplash(std::u16string_view commandLine) {
-  if (Setting(u"Setting", u"TopWinShow", 1) != 1) return;
-  if (WindowSwitchOf(commandLine, common_) != WindowSwitch::None) return;
+bool ClassMain::DecideSplash(std::u16string_view commandLine) {
+  const auto wanted = Setting(u"Setting", u"TopWinShow", 1);
+  if (!wanted) return false;
+  if (*wanted != 1 || WindowSwitchOf(commandLine, common_) != WindowSwitch::None) return true;
   windows_.ShowSplash();
   state_.startupState[0] = 1;
+  return true;
 }
 
 bool ClassMain::MayStart() {
@@ -61,9 +66,10 @@ bool ClassMain::MayStart() {
 }
 
 bool ClassMain::InstanceLimitAllows() {
-  const std::int32_t allowed = Setting(u"Setting", u"AppECount", kDefaultInstanceLimit);
-  if (CountOwnProcesses(common_.PortSet().environment) <= allowed) return true;
-  Refuse(u"\"" + common_.ExeName() + u"\"は " + ToText(allowed) +
+  const auto allowed = Setting(u"Setting", u"AppECount", kDefaultInstanceLimit);
+  if (!allowed) return false;
+  if (CountOwnProcesses(common_.PortSet().environment) <= *allowed) return true;
+  Refuse(u"\"" + common_.ExeName() + u"\"は " + ToText(*allowed) +
          u"個以上起動できないように設定されています");
   return false;
 }
@@ -100,24 +106,30 @@ std::int32_t ClassMain::StartEditor(std::u16string_view commandLine) {
 
 std::int32_t ClassMain::ParseCommandLine(std::u16string_view line) {
   Progress(u"ｺﾏﾝﾄﾞﾗｲﾝ解析中...");
-  if (AsksForVersion(line)) {
+  if (AsksForVersion(line, common_)) {
     UnloadSplash();
     Tell(VersionText(kVersionMajor, kVersionMinor, kVersionRevision), MessageIcon::None);
     return kEnd;
   }
   state_.startupState[1] = static_cast<std::int32_t>(ModeOf(line, common_));
   Progress(u"設定 復元開始...");
-  if (!LoadEditor()) return kEnd;
+  if (!ReadListAtStart() || !LoadEditor()) return kEnd;
   ActOnMode(line);
   return kLive;
+}
+
+// Before the window stands: what is damaged is told without it.
+bool ClassMain::ReadListAtStart() {
+  if (state_.startupState[1] != static_cast<std::int64_t>(StartMode::None)) return true;
+  const auto wanted = Setting(u"Setting", u"WinF", 0);
+  listAtStart_ = wanted.value_or(0) != 0;
+  return wanted.has_value();
 }
 
 // While the splash is up nothing of the window can be used; without one it can from the first moment.
 bool ClassMain::LoadEditor() {
   if (!windows_.LoadEditor(SplashUp() ? EditorInput::Disabled : EditorInput::Enabled)) {
-    UnloadSplash();
-    Tell(u"INIのﾃﾞｰﾀが壊れています\r\nINIを削除してからこのﾌﾟﾛｸﾞﾗﾑを再起動して下さい", MessageIcon::Critical,
-         u"起動ｴﾗｰ ");
+    RefuseDamagedSettings();
     return false;
   }
   if (SplashUp()) {
@@ -132,7 +144,7 @@ bool ClassMain::LoadEditor() {
 void ClassMain::ActOnMode(std::u16string_view line) {
   switch (static_cast<StartMode>(state_.startupState[1])) {
     case StartMode::None:
-      if (Setting(u"Setting", u"WinF", 0) != 0) ShowFileList(StartList::RecentFiles, StartListCheck::AsSaved);
+      if (listAtStart_) ShowFileList(StartList::RecentFiles, StartListCheck::AsSaved);
       return;
     case StartMode::NewDocumentWindow:
       return ShowFileList(StartList::NewDocument, StartListCheck::Greyed);
@@ -166,11 +178,12 @@ void ClassMain::SetBusyPointer(bool busy) {
   common_.PortSet().window.SetBusyPointer(busy);
 }
 
-// An unusable number counts as the default: start-up itself never stops for one.
-std::int32_t ClassMain::Setting(std::u16string_view section, std::u16string_view key,
-                                std::int16_t defaultValue) const {
-  return ToInteger(common_.GetINI(common_.ExeName(), section, key, ToText(defaultValue)))
-      .value_or(defaultValue);
+// An unusable number refuses the start, as it does while the window reads its settings.
+std::optional<std::int16_t> ClassMain::Setting(std::u16string_view section, std::u16string_view key,
+                                               std::int16_t defaultValue) {
+  const auto value = ToInteger(common_.GetINI(common_.ExeName(), section, key, ToText(defaultValue)));
+  if (!value) RefuseDamagedSettings();
+  return value;
 }
 
 void ClassMain::Tell(std::u16string text, MessageIcon icon, std::u16string_view captionHead) {
@@ -179,11 +192,15 @@ void ClassMain::Tell(std::u16string text, MessageIcon icon, std::u16string_view 
               .icon = icon});
 }
 
-std::int32_t ClassMain::Refuse(std::u16string text) {
+std::int32_t ClassMain::Refuse(std::u16string text, std::u16string_view captionHead) {
   UnloadSplash();
   SetBusyPointer(false);
-  Tell(std::move(text), MessageIcon::Critical);
+  Tell(std::move(text), MessageIcon::Critical, captionHead);
   return kEnd;
+}
+
+void ClassMain::RefuseDamagedSettings() {
+  Refuse(u"INIのﾃﾞｰﾀが壊れています\r\nINIを削除してからこのﾌﾟﾛｸﾞﾗﾑを再起動して下さい", u"起動ｴﾗｰ ");
 }
 
 }  // namespace kestri

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,8 +29,9 @@ class ClassMain {
 
  private:
   void ResetState();
-  void WarnOfSystem();
-  void DecideSplash(std::u16string_view commandLine);
+  // False, here and below, when the start was refused.
+  bool WarnOfSystem();
+  bool DecideSplash(std::u16string_view commandLine);
   bool MayStart();
   bool InstanceLimitAllows();
   std::int32_t Dispatch(std::u16string_view commandLine);
@@ -37,6 +39,7 @@ class ClassMain {
   // The normal editor.
   std::int32_t StartEditor(std::u16string_view commandLine);
   std::int32_t ParseCommandLine(std::u16string_view line);
+  bool ReadListAtStart();
   bool LoadEditor();
   void ActOnMode(std::u16string_view line);
   void ShowFileList(StartList list, StartListCheck check);
@@ -53,14 +56,17 @@ class ClassMain {
   void Progress(std::u16string_view text);
   void UnloadSplash();
   void SetBusyPointer(bool busy);
-  std::int32_t Setting(std::u16string_view section, std::u16string_view key, std::int16_t defaultValue) const;
+  std::optional<std::int16_t> Setting(std::u16string_view section, std::u16string_view key,
+                                      std::int16_t defaultValue);
   void Tell(std::u16string text, MessageIcon icon, std::u16string_view captionHead = {});
-  std::int32_t Refuse(std::u16string text);
+  std::int32_t Refuse(std::u16string text, std::u16string_view captionHead = {});
+  void RefuseDamagedSettings();
 
   const ClassCommon& common_;
   ApplicationState& state_;
   MessageBox& boxes_;
   StartupWindows& windows_;
+  bool listAtStart_ = false;  // of recent files, when nothing else is asked for
 };
 
 }  // namespace kestri

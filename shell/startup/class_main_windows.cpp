@@ -1,17 +1,10 @@
 // The windows that a process may exist for instead of the editor's.
+#include "shell/common/image_viewer.hpp"
 #include "shell/common/text.hpp"
 #include "shell/startup/class_main.hpp"
 
 namespace kestri {
 namespace {
-
-// The sibling viewer under either of its names.
-std::u16string ImageViewer(const ClassCommon& common) {
-  const std::u16string folder = common.AppPath(common.ProgramFolder());
-  const std::u16string named = common.Join(folder, u"PicPeek.exe");
-  const std::u16string plain = common.Join(folder, u"PicPeek");
-  return !common.PathExists(named) && common.PathExists(plain) ? plain : named;
-}
 
 std::u16string Quoted(std::u16string_view text) {
   return std::u16string(u"\"").append(text).append(u"\"");
@@ -20,7 +13,7 @@ std::u16string Quoted(std::u16string_view text) {
 }  // namespace
 
 std::int32_t ClassMain::ShowImageSlides(const std::u16string& folder) {
-  const std::u16string viewer = ImageViewer(common_);
+  const std::u16string viewer = SiblingImageViewer(common_);
   if (!common_.PathExists(folder) || !common_.IsFileAttribute(folder, kAttributeDirectory)) {
     Refuse(u"ﾌｫﾙﾀﾞ " + Quoted(folder) + u" は 存在しません");
   } else if (!common_.ExecuteShow(viewer, 3, folder)) {

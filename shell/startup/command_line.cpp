@@ -55,16 +55,16 @@ std::u16string WithoutQuotes(std::u16string_view text) {
                                      true);
 }
 
-bool AsksForVersion(std::u16string_view line) {
-  return line == u"/?";
+bool AsksForVersion(std::u16string_view line, const ClassCommon& common) {
+  return line == u"/?" && !IsPath(line, common);
 }
 
 StartMode ModeOf(std::u16string_view line, const ClassCommon& common) {
+  if (line.empty()) return StartMode::None;
+  if (line.front() != u'/' || IsPath(line, common)) return StartMode::File;
   const std::u16string upper = UCase(line);
   if (upper == u"/SN") return StartMode::NewDocumentWindow;
-  if (upper == u"/SF") return StartMode::FileList;
-  if (line.empty()) return StartMode::None;
-  return line.front() == u'/' && !IsPath(line, common) ? StartMode::UnknownSwitch : StartMode::File;
+  return upper == u"/SF" ? StartMode::FileList : StartMode::UnknownSwitch;
 }
 
 std::u16string VersionText(int major, int minor, int revision) {

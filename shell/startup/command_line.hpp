@@ -41,11 +41,12 @@ std::u16string SwitchArgument(std::u16string_view rawLine);
 // Trimmed, then one enclosing pair of double quotes taken off.
 std::u16string WithoutQuotes(std::u16string_view text);
 
-// Exactly "/?".
-bool AsksForVersion(std::u16string_view line);
-
 // A line that begins with "/" is a path when it exists or lies in an existing folder other than the root, and
 // a switch otherwise.
+
+// Exactly "/?".
+bool AsksForVersion(std::u16string_view line, const ClassCommon& common);
+
 StartMode ModeOf(std::u16string_view line, const ClassCommon& common);
 
 // The text of the version box.

@@ -7,22 +7,25 @@ namespace {
 
 constexpr std::u16string_view kWall = u"Wall";
 
-int WallNumber(const ClassCommon& common, std::u16string_view key, std::u16string_view defaultValue) {
-  return ToLong(common.GetINI(common.ExeName(), kWall, key, defaultValue)).value_or(0);
+std::optional<std::int32_t> WallNumber(const ClassCommon& common, std::u16string_view key,
+                                       std::u16string_view defaultValue) {
+  return ToLong(common.GetINI(common.ExeName(), kWall, key, defaultValue));
 }
 
 }  // namespace
 
-SplashPicture SplashPictureOf(const ClassCommon& common) {
-  SplashPicture picture;
-  picture.path = common.GetINI(common.ExeName(), kWall, u"Picture", u"");
-  if (!common.PathExists(picture.path)) return {};
-  if (WallNumber(common, u"WinResize", u"1") == 1) return picture;
-  picture.fit = PictureFit::Unscaled;
+std::optional<SplashPicture> SplashPictureOf(const ClassCommon& common) {
+  std::u16string path = common.GetINI(common.ExeName(), kWall, u"Picture", u"");
+  if (!common.PathExists(path)) return SplashPicture();
+  const auto stretch = WallNumber(common, u"WinResize", u"1");
+  if (!stretch) return std::nullopt;
+  if (*stretch == 1) return SplashPicture{.path = std::move(path)};
   // Both keys begin with a blank.
-  picture.hScroll = WallNumber(common, u" WallHScroll", u"0");
-  picture.vScroll = WallNumber(common, u" WallVScroll", u"0");
-  return picture;
+  const auto hScroll = WallNumber(common, u" WallHScroll", u"0");
+  const auto vScroll = WallNumber(common, u" WallVScroll", u"0");
+  if (!hScroll || !vScroll) return std::nullopt;
+  return SplashPicture{
+      .path = std::move(path), .fit = PictureFit::Unscaled, .hScroll = *hScroll, .vScroll = *vScroll};
 }
 
 std::u16string SplashVersion(int major, int minor, int revision) {

@@ -1,6 +1,7 @@
 // Which picture the splash shows, and how.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "shell/common/class_common.hpp"
@@ -16,7 +17,8 @@ struct SplashPicture {
   int vScroll = 0;
 };
 
-SplashPicture SplashPictureOf(const ClassCommon& common);
+// Nothing when a number that says how the picture is shown is unusable.
+std::optional<SplashPicture> SplashPictureOf(const ClassCommon& common);
 
 // "Ver. 01.00.000e07"
 std::u16string SplashVersion(int major, int minor, int revision);

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <map>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -69,9 +70,12 @@ class FakeMessageBox : public MessageBox {
       return answer;
     }
     switch (request.buttons) {
-      case MessageButtons::Ok: return MessageAnswer::Ok;
-      case MessageButtons::YesNo: return MessageAnswer::No;
-      default: return MessageAnswer::Cancel;
+      case MessageButtons::Ok:
+        return MessageAnswer::Ok;
+      case MessageButtons::YesNo:
+        return MessageAnswer::No;
+      default:
+        return MessageAnswer::Cancel;
     }
   }
   std::vector<MessageRequest> asked;
@@ -112,9 +116,10 @@ class FakeShell : public Shell {
  public:
   bool Open(std::u16string_view path, std::u16string_view parameters) override {
     opened.emplace_back(path, parameters);
-    return true;
+    return opens;
   }
   bool Explore(std::u16string_view folder) override {
+    if (outOfMemory) throw std::bad_alloc();
     explored.emplace_back(folder);
     return true;
   }
@@ -137,6 +142,8 @@ class FakeShell : public Shell {
     commandLines.emplace_back(commandLine);
     return startsCommandLines;
   }
+  bool opens = true;
+  bool outOfMemory = false;
   std::vector<std::u16string> commandLines;
   bool startsCommandLines = true;
   std::vector<std::pair<std::u16string, std::u16string>> opened;

@@ -1,6 +1,7 @@
 // Other processes as a test makes them up: captions by handle.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -13,7 +14,9 @@ class RunningInstances : public Instances {
  public:
   bool Appear() override { return true; }
   void Announce(CaptionProvider, FrontRequest) override {}
-  void Withdraw() override {}
+  void Withdraw() override {
+    if (withdrawing) withdrawing();
+  }
   bool Living(std::int64_t handle) override { return captions.contains(handle); }
   std::optional<std::u16string> CaptionOf(std::int64_t handle) override {
     const auto found = captions.find(handle);
@@ -24,6 +27,7 @@ class RunningInstances : public Instances {
     return captions.contains(handle);
   }
 
+  std::function<void()> withdrawing;
   std::map<std::int64_t, std::u16string> captions;
   std::vector<std::int64_t> broughtToFront;
 };

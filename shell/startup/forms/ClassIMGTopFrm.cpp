@@ -32,8 +32,9 @@ std::unique_ptr<TopFrm> ClassIMGTopFrm::IMGTopFrm() const {
 }
 
 bool ClassIMGTopFrm::PaintPicture(TopFrm& form) const {
-  const SplashPicture wanted = SplashPictureOf(common_);
-  if (!wanted.path.empty()) return PaintFile(form, wanted);
+  const auto wanted = SplashPictureOf(common_);
+  if (!wanted) return false;
+  if (!wanted->path.empty()) return PaintFile(form, *wanted);
   const QImage picture = ProgramResources(common_, resourceRoot_).LoadJpeg(kSplashPicture, DeviceSize(form));
   if (!picture.isNull()) form.SetPicture(picture, form.rect());
   return !picture.isNull();

@@ -12,7 +12,15 @@ namespace kestri {
 
 ProcessFate EditorProcess::Start(std::u16string_view commandLine) {
   const std::int32_t result = ClassMain(common_, state_, boxes_, *this).Main(commandLine);
-  return ActOnResult(result, environment_, effects_);
+  // A signal may have closed it under the list or the box that the start ends with.
+  const bool closedMeanwhile = window_ != nullptr && !window_->isVisible();
+  return closedMeanwhile ? ProcessFate::Ends : ActOnResult(result, environment_, effects_);
+}
+
+void EditorProcess::TellUnknownError() {
+  boxes_.Ask({.text = u"不明なｴﾗｰが発生しました",
+              .caption = std::u16string(kApplicationTitle),
+              .icon = MessageIcon::Exclamation});
 }
 
 void EditorProcess::ShowOsWarning(std::u16string_view text) {
@@ -71,7 +79,10 @@ void EditorProcess::LoadPopup() {
 // What can wait comes once the window stands.
 void EditorProcess::EndLoading() {
   window_->SetLoading(false);
-  QTimer::singleShot(0, window_.get(), [this] { window_->FinishLoading(); });
+  QTimer::singleShot(0, window_.get(), [this] {
+    window_->FinishLoading();
+    signals_.emplace(*window_, [this] { return state_.modified != 0; });
+  });
 }
 
 void EditorProcess::ShowFileList(StartList list, StartListCheck check) {

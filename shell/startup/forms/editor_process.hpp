@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "document/document_window.hpp"
 #include "platform/posix/posix_clock.hpp"
@@ -19,6 +20,7 @@
 #include "shell/forms/HTMLfrm.hpp"
 #include "shell/startup/entry_routine.hpp"
 #include "shell/startup/forms/TopFrm.hpp"
+#include "shell/startup/forms/end_by_signal.hpp"
 #include "shell/startup/startup_windows.hpp"
 
 namespace kestri {
@@ -26,6 +28,7 @@ namespace kestri {
 class EditorProcess final : public StartupWindows {
  public:
   ProcessFate Start(std::u16string_view commandLine);
+  void TellUnknownError();
 
   void ShowOsWarning(std::u16string_view text) override;
   void ShowSplash() override;
@@ -58,6 +61,7 @@ class EditorProcess final : public StartupWindows {
   QtInstances instances_{common_.GetSystemDirectory(static_cast<int>(SystemFolder::Windows))};
   std::unique_ptr<TopFrm> splash_;
   std::unique_ptr<HTMLfrm> window_;
+  std::optional<EndBySignal> signals_;
 };
 
 }  // namespace kestri

@@ -1,7 +1,7 @@
-#include <QApplication>
 #include <span>
 
 #include "shell/startup/command_line.hpp"
+#include "shell/startup/forms/editor_application.hpp"
 #include "shell/startup/forms/editor_process.hpp"
 #include "shell/startup/forms/toolkit_setup.hpp"
 
@@ -11,9 +11,10 @@ int main(int argc, char** argv) {
   const std::u16string commandLine = kestri::RawCommandLine(arguments);
   kestri::PrepareEnvironment();
   int programOnly = 1;
-  QApplication application(programOnly, argv);
+  kestri::EditorApplication application(programOnly, argv);
   kestri::PrepareLook();
   kestri::EditorProcess process;
+  application.unknownError = [&process] { process.TellUnknownError(); };
   if (process.Start(commandLine) == kestri::ProcessFate::Ends) return 0;
-  return QApplication::exec();
+  return kestri::EditorApplication::exec();
 }

@@ -45,6 +45,27 @@ TEST_F(FileFacts, AMissingFileHasNoFacts) {
   EXPECT_FALSE(common_.KillFile(u"C:\\no"));
 }
 
+TEST_F(FileFacts, AttributesAreNamedInTheirOrderWithoutTheLastTwoCharacters) {
+  constexpr std::uint32_t kAll =
+      kAttributeReadOnly | kAttributeHidden | kAttributeSystem | kAttributeDirectory | kAttributeArchive;
+  const std::pair<std::uint32_t, const char16_t*> rows[] = {
+      {kAll, u"Archive  Directory & System  Hidden  ReadOnly"},
+      {kAttributeArchive, u"Archive"},
+      {kAttributeDirectory, u"Directory "},
+      {kAttributeSystem, u"System"},
+      {kAttributeHidden, u"Hidden"},
+      {kAttributeReadOnly, u"ReadOnly"},
+      {kAttributeReadOnly | kAttributeArchive, u"Archive  ReadOnly"},
+      {kAttributeHidden | kAttributeSystem, u"System  Hidden"},
+      {kAttributeHidden | kAttributeDirectory, u"Directory & Hidden"},
+      {kAttributeSystem | kAttributeArchive, u"Archive  System"},
+      {0, u"Normal"}};
+  for (const auto& [attributes, words] : rows) {
+    files.attributes[u"C:\\a"] = attributes;
+    EXPECT_EQ(ToUtf8(common_.GetFileAttribute(u"C:\\a")), ToUtf8(words)) << attributes;
+  }
+}
+
 TEST_F(FileFacts, TypeAndIconComeFromTheDesktop) {
   files.contents[u"C:\\a.htm"] = "";
   EXPECT_EQ(common_.GetFileType(u"C:\\a.htm"), u"HTML 文書");

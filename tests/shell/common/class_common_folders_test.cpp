@@ -107,6 +107,36 @@ TEST_F(WindowsFolders, MakeDirectoryOfARelativePathFails) {
   EXPECT_FALSE(common_.MakeDirectory(u"ab:c\\b"));
 }
 
+TEST_F(WindowsFolders, MakeDirectoryMakesEveryLevelBelowAShare) {
+  files.folders = {u"\\\\server\\share"};
+  EXPECT_TRUE(common_.MakeDirectory(u"\\\\server\\share\\a\\b\\Dummy.file"));
+  EXPECT_EQ(files.folders, (std::set<std::u16string>{u"\\\\server\\share", u"\\\\server\\share\\a",
+                                                     u"\\\\server\\share\\a\\b"}));
+}
+
+TEST_F(WindowsFolders, MakeDirectoryOfTheShareItself) {
+  files.folders = {u"\\\\server\\share"};
+  EXPECT_TRUE(common_.MakeDirectory(u"\\\\server\\share\\Dummy.file"));
+  EXPECT_EQ(files.folders.size(), 1u);
+}
+
+TEST_F(WindowsFolders, MakeDirectoryOnAServerThatIsNotThereFails) {
+  for (const char16_t* path : {u"\\\\gone\\share\\a\\Dummy.file", u"\\\\gone\\Dummy.file", u"\\\\gone"}) {
+    EXPECT_FALSE(common_.MakeDirectory(path)) << ToUtf8(path);
+  }
+  EXPECT_TRUE(files.folders.empty());
+}
+
+TEST_F(WindowsFolders, MakeDirectoryMakesNothingOfWhatIsNeitherDriveNorShare) {
+  files.anyFolderCanBeMade = true;
+  for (const char16_t* path :
+       {u"", u"\\", u"\\\\", u"\\a\\Dummy.file", u"a\\b\\Dummy.file", u"ab:\\c\\Dummy.file",
+        u"C:a\\Dummy.file", u"/home/x/Dummy.file", u"Dummy.file"}) {
+    EXPECT_FALSE(common_.MakeDirectory(path)) << ToUtf8(path);
+  }
+  EXPECT_TRUE(files.folders.empty());
+}
+
 TEST_F(WindowsFolders, DrivesCompareByTheirLetterWithoutCase) {
   EXPECT_TRUE(common_.DriveExists(u"c"));
   EXPECT_TRUE(common_.DriveExists(u"A:\\"));

@@ -2,6 +2,7 @@
 // native paths on the real one.
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -18,19 +19,23 @@ class KnownPaths : public MemoryFileSystem {
   std::optional<FileStatus> Status(std::u16string_view path) override {
     const std::u16string text(path);
     if (folders.contains(text)) return FileStatus{.attributes = kAttributeDirectory};
+    if (const auto known = attributes.find(text); known != attributes.end())
+      return FileStatus{.attributes = known->second};
     return MemoryFileSystem::Status(path);
   }
   bool CreateFolder(std::u16string_view path) override {
     const std::u16string text(path);
     const std::u16string parent = text.substr(0, text.rfind(u'\\'));
     const bool hasParent = folders.contains(parent) || folders.contains(parent + u"\\");
-    return hasParent && folders.insert(text).second;
+    return (hasParent || anyFolderCanBeMade) && folders.insert(text).second;
   }
   bool CreateLink(std::u16string_view target, std::u16string_view link) override {
     links.emplace_back(target, link);
     return true;
   }
   std::set<std::u16string> folders;
+  bool anyFolderCanBeMade = false;                     // even one whose parent is unknown
+  std::map<std::u16string, std::uint32_t> attributes;  // of files
   std::vector<std::pair<std::u16string, std::u16string>> links;
 };
 

@@ -46,6 +46,20 @@ TEST_F(ClassMainTest, ThePointerIsNormalAgainAtTheEnd) {
   EXPECT_FALSE(services.busy);
 }
 
+TEST_F(ClassMainTest, ThePointerWaitsThroughEveryStepOfTheLoad) {
+  Set(u"Setting", u"TopWinShow", u"1");
+  Start(u"page.htm");
+  EXPECT_EQ(windows.busyAt, std::vector<bool>(windows.steps.size(), true));
+  EXPECT_FALSE(services.busy);
+}
+
+TEST_F(ClassMainTest, ThePointerWaitsAgainBehindTheWarning) {
+  Set(u"RunArt", u"RunArt", u"0");
+  Start(u"");
+  ASSERT_EQ(windows.steps.front(), "warning");
+  EXPECT_EQ(windows.busyAt, (std::vector<bool>{false, true, true, true}));
+}
+
 // The warning of the system.
 
 TEST_F(ClassMainTest, AnotherSystemIsWarnedAboutUntilTheUserKnows) {
@@ -121,11 +135,13 @@ class Refusal : public ClassMainTest {
     EXPECT_EQ(Start(u""), ClassMain::kEnd);
     EXPECT_EQ(windows.steps, Steps{"box"});
     ExpectBox(MessageIcon::Critical, u"Kestrile", text);
+    EXPECT_EQ(windows.busyAt, std::vector<bool>{false});
     EXPECT_FALSE(services.busy);
 
     Set(u"Setting", u"TopWinShow", u"1");
     EXPECT_EQ(Start(u""), ClassMain::kEnd);
     EXPECT_EQ(windows.steps, (Steps{"splash", "splash away", "box"}));
+    EXPECT_EQ(windows.busyAt, (std::vector<bool>{true, true, false}));
     EXPECT_EQ(state.startupState[0], 0);
   }
 };
@@ -201,6 +217,61 @@ TEST_F(ClassMainTest, DamagedSettingsWithoutASplashEndTheProcessToo) {
   windows.settingsUsable = false;
   EXPECT_EQ(Start(u"page.htm"), ClassMain::kEnd);
   EXPECT_EQ(windows.steps, (Steps{"editor", "box"}));
+}
+
+// Numbers that are none.
+
+constexpr const char16_t* kUnusable[] = {u"abc", u"99999999999", u"40000", u"1x"};
+
+class DamagedNumber : public ClassMainTest {
+ protected:
+  void ExpectDamageTold(std::u16string_view line, const Steps& steps) {
+    boxes.asked.clear();
+    EXPECT_EQ(Start(line), ClassMain::kEnd);
+    EXPECT_EQ(windows.steps, steps);
+    EXPECT_FALSE(windows.busyAt.back());
+    ExpectBox(MessageIcon::Critical, u"起動ｴﾗｰ Kestrile",
+              u"INIのﾃﾞｰﾀが壊れています\r\nINIを削除してからこのﾌﾟﾛｸﾞﾗﾑを再起動して下さい");
+  }
+};
+
+TEST_F(DamagedNumber, OfTheWarningIsToldInItsPlace) {
+  for (const char16_t* value : kUnusable) {
+    Set(u"RunArt", u"RunArt", value);
+    ExpectDamageTold(u"", {"box"});
+  }
+  EXPECT_TRUE(windows.osWarnings.empty());
+}
+
+TEST_F(DamagedNumber, OfTheSplashIsToldWithoutASplashOnEveryLine) {
+  for (const char16_t* value : kUnusable) {
+    Set(u"Setting", u"TopWinShow", value);
+    for (const char16_t* line : {u"", u"page.htm", u"/SN", u"/CI x"}) ExpectDamageTold(line, {"box"});
+  }
+}
+
+TEST_F(DamagedNumber, OfTheProcessLimitIsToldBehindTheSplash) {
+  Set(u"Setting", u"TopWinShow", u"1");
+  for (const char16_t* value : kUnusable) {
+    Set(u"Setting", u"AppECount", value);
+    ExpectDamageTold(u"page.htm", {"splash", "splash away", "box"});
+  }
+}
+
+TEST_F(DamagedNumber, OfTheListAtTheStartIsToldBeforeTheEditorStands) {
+  for (const char16_t* value : kUnusable) {
+    Set(u"Setting", u"WinF", value);
+    ExpectDamageTold(u"", {"box"});
+  }
+}
+
+TEST_F(DamagedNumber, OfTheListAtTheStartIsReadOnlyWhenTheListIsInQuestion) {
+  Set(u"Setting", u"WinF", u"abc");
+  for (const char16_t* line : {u"page.htm", u"/SN", u"/SF"}) {
+    EXPECT_EQ(Start(line), ClassMain::kLive) << ToUtf8(line);
+    EXPECT_EQ(windows.steps.front(), "editor") << ToUtf8(line);
+  }
+  EXPECT_TRUE(boxes.asked.empty());
 }
 
 TEST_F(ClassMainTest, ARefusalWritesNoSettings) {

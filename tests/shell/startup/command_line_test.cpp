@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/posix/posix_file_system.hpp"
+#include "tests/fakes/memory_file_system.hpp"
 #include "tests/fakes/ports.hpp"
 #include "tests/fakes/temporary_folder.hpp"
 
@@ -96,8 +97,22 @@ TEST_F(CommandLineTest, ARelativeNameIsAFile) {
 }
 
 TEST_F(CommandLineTest, VersionIsAskedByExactlyOneSwitch) {
-  EXPECT_TRUE(AsksForVersion(u"/?"));
-  EXPECT_FALSE(AsksForVersion(u"/?x"));
+  EXPECT_TRUE(AsksForVersion(u"/?", common_));
+  EXPECT_FALSE(AsksForVersion(u"/?x", common_));
+}
+
+TEST_F(CommandLineTest, AFileInTheRootThatIsNamedLikeASwitchIsAFile) {
+  fakes::MemoryFileSystem root;
+  const ClassCommon common({root, environment_, shell_, clock_, window_}, PathStyle::Posix);
+  for (const char16_t* line : {u"/sn", u"/SN", u"/sf", u"/SF", u"/?", u"/x"}) {
+    root.contents = {{line, "x"}};
+    EXPECT_EQ(ModeOf(line, common), StartMode::File) << ToUtf8(line);
+    EXPECT_FALSE(AsksForVersion(line, common)) << ToUtf8(line);
+  }
+  root.contents = {{u"/sn", "x"}};
+  EXPECT_EQ(ModeOf(u"/SN", common), StartMode::NewDocumentWindow) << "another name";
+  EXPECT_EQ(ModeOf(u"/sf", common), StartMode::FileList);
+  EXPECT_TRUE(AsksForVersion(u"/?", common));
 }
 
 TEST_F(CommandLineTest, TheVersionTextNamesVersionAndSwitches) {

@@ -19,7 +19,8 @@ class SplashPictureTest : public testing::Test {
   void Set(std::u16string_view key, std::u16string_view value) {
     Common().SetINI(u"Kestri", u"Wall", key, value);
   }
-  SplashPicture Picture() { return SplashPictureOf(Common()); }
+  SplashPicture Picture() { return SplashPictureOf(Common()).value(); }
+  bool Paintable() { return SplashPictureOf(Common()).has_value(); }
 
   fakes::TemporaryFolder folder;
   PosixFileSystem files;
@@ -44,10 +45,8 @@ TEST_F(SplashPictureTest, AMissingPictureFallsBackToTheProgramsOwn) {
 TEST_F(SplashPictureTest, ThePictureOfTheUserIsStretchedUnlessToldOtherwise) {
   Set(u"Picture", folder.Text(u"wall.bmp"));
   EXPECT_EQ(Picture().path, folder.Text(u"wall.bmp"));
-  const std::pair<const char16_t*, PictureFit> rows[] = {{u"1", PictureFit::Stretched},
-                                                         {u"0", PictureFit::Unscaled},
-                                                         {u"-1", PictureFit::Unscaled},
-                                                         {u"x", PictureFit::Unscaled}};
+  const std::pair<const char16_t*, PictureFit> rows[] = {
+      {u"1", PictureFit::Stretched}, {u"0", PictureFit::Unscaled}, {u"-1", PictureFit::Unscaled}};
   for (const auto& [value, fit] : rows) {
     Set(u"WinResize", value);
     EXPECT_EQ(Picture().fit, fit) << ToUtf8(value);
@@ -65,6 +64,29 @@ TEST_F(SplashPictureTest, ScrollPositionsCountOnlyUnscaledAndDefaultToTheCorner)
   EXPECT_EQ(Picture().vScroll, -7);
   Set(u"WinResize", u"1");
   EXPECT_EQ(Picture().hScroll, 0);
+}
+
+TEST_F(SplashPictureTest, APictureWithAnUnusableNumberCannotBePainted) {
+  Set(u"Picture", folder.Text(u"wall.bmp"));
+  for (const char16_t* value : {u"abc", u"99999999999"}) {
+    Set(u"WinResize", value);
+    EXPECT_FALSE(Paintable()) << ToUtf8(value);
+    Set(u"WinResize", u"0");
+    for (const char16_t* key : {u" WallHScroll", u" WallVScroll"}) {
+      Set(key, value);
+      EXPECT_FALSE(Paintable()) << ToUtf8(key);
+      Set(key, u"");
+    }
+    EXPECT_TRUE(Paintable());
+  }
+}
+
+TEST_F(SplashPictureTest, NumbersThatAreNotAskedForMayBeUnusable) {
+  for (const char16_t* key : {u"WinResize", u" WallHScroll", u" WallVScroll"}) Set(key, u"abc");
+  EXPECT_TRUE(Paintable()) << "the program's own picture needs none";
+  Set(u"Picture", folder.Text(u"wall.bmp"));
+  Set(u"WinResize", u"1");
+  EXPECT_TRUE(Paintable()) << "a stretched picture is not scrolled";
 }
 
 TEST_F(SplashPictureTest, KeysThatBeginWithABlankAreReadInEitherForm) {

@@ -44,15 +44,18 @@ class RecordedWindows : public StartupWindows {
     Add(step + (check == StartListCheck::Greyed ? ", greyed" : ""));
   }
 
+  void Add(std::string step) {
+    steps.push_back(std::move(step));
+    busyAt.push_back(services_.busy);
+  }
+
   Steps steps;
+  std::vector<bool> busyAt;  // the pointer, at each step
   std::vector<std::u16string> osWarnings;
   bool settingsUsable = true;
   std::int64_t modeAtLoad = 0;
   std::int64_t splashAtLoad = 0;
   std::optional<std::int64_t> modeLeftByLoad;
-
- protected:
-  void Add(std::string step) { steps.push_back(std::move(step)); }
 
  private:
   ApplicationState& state_;
@@ -83,23 +86,23 @@ class AllRecordedWindows : public RecordedWindows {
 
 class TimedMessageBox : public FakeMessageBox {
  public:
-  explicit TimedMessageBox(Steps& steps) : steps_(steps) {}
+  explicit TimedMessageBox(RecordedWindows& windows) : windows_(windows) {}
   MessageAnswer Ask(const MessageRequest& request) override {
-    steps_.push_back("box");
+    windows_.Add("box");
     return FakeMessageBox::Ask(request);
   }
 
  private:
-  Steps& steps_;
+  RecordedWindows& windows_;
 };
 
-class ShellThatMayRefuse : public FakeShell {
+class RecordedPointer : public FakeWindowServices {
  public:
-  bool Open(std::u16string_view path, std::u16string_view parameters) override {
-    FakeShell::Open(path, parameters);
-    return opens;
+  void SetBusyPointer(bool value) override {
+    FakeWindowServices::SetBusyPointer(value);
+    shown.push_back(value);
   }
-  bool opens = true;
+  std::vector<bool> shown;
 };
 
 // The warning of the system is off and so is the splash; a test switches on what it is about.
@@ -123,6 +126,8 @@ class StartupDesk : public testing::Test {
 
   std::int32_t Start(std::u16string_view line) {
     windows.steps.clear();
+    windows.busyAt.clear();
+    services.shown.clear();
     const ClassCommon common = Common();
     return ClassMain(common, state, boxes, windows).Main(line);
   }
@@ -138,12 +143,12 @@ class StartupDesk : public testing::Test {
   TemporaryFolder folder;
   PosixFileSystem files;
   FakeEnvironment environment;
-  ShellThatMayRefuse shell;
+  FakeShell shell;
   FakeClock clock;
-  FakeWindowServices services;
+  RecordedPointer services;
   ApplicationState state;
   Windows windows{state, services};
-  TimedMessageBox boxes{windows.steps};
+  TimedMessageBox boxes{windows};
 };
 
 }  // namespace kestri::fakes

@@ -153,5 +153,39 @@ TEST_F(WithoutTheWindows, AMissingArchiveIsToldFirst) {
   ExpectBox(MessageIcon::Critical, u"Kestrile", u"\"/no such.lzh\" は 存在しません");
 }
 
+// The pointer.
+
+TEST_F(WindowSwitches, ThePointerIsBusyFirstAndNormalAtTheEndOfEveryPath) {
+  const std::u16string file = folder.Text(u"a b.lzh");
+  const std::u16string lines[] = {u"",
+                                  file,
+                                  u"/SN",
+                                  u"/SF",
+                                  u"/x",
+                                  u"/?",
+                                  u"/SL " + folder.Text(),
+                                  u"/SL /no such",
+                                  u"/CI " + file,
+                                  u"/CL " + file,
+                                  u"/DA " + file,
+                                  u"/DA /no such",
+                                  u"/AC " + file,
+                                  u"/AC /no such"};
+  for (const std::u16string& line : lines) {
+    Start(line);
+    ASSERT_FALSE(services.shown.empty()) << ToUtf8(line);
+    EXPECT_TRUE(services.shown.front()) << ToUtf8(line);
+    EXPECT_FALSE(services.busy) << ToUtf8(line);
+  }
+}
+
+TEST_F(WindowSwitches, NoRefusalStandsUnderTheWaitingPointer) {
+  for (const char16_t* line : {u"/SL /no such", u"/DA /no such", u"/AC /no such"}) {
+    Start(line);
+    EXPECT_EQ(windows.steps, Steps{"box"}) << ToUtf8(line);
+    EXPECT_EQ(windows.busyAt, std::vector<bool>{false}) << ToUtf8(line);
+  }
+}
+
 }  // namespace
 }  // namespace kestri

@@ -14,6 +14,7 @@
 #include "platform/qt/qt_text.hpp"
 #include "shell/common/application_state.hpp"
 #include "shell/startup/forms/ClassIMGTopFrm.hpp"
+#include "tests/fakes/painted_words.hpp"
 #include "tests/fakes/ports.hpp"
 #include "tests/fakes/screens.hpp"
 #include "tests/fakes/temporary_folder.hpp"
@@ -180,6 +181,25 @@ TEST_F(Splash, AFileThatIsNoPictureIsToldOnTheWindow) {
   plain.SetVersion(Label(*form, "Label4"));
   plain.SetCredit(Label(*form, "Label3"));
   EXPECT_EQ(told, plain.grab().toImage());
+}
+
+TEST_F(Splash, TheFailureIsToldInTwoLines) {
+  folder.Write("wall.bmp", "no picture");
+  Set(u"Picture", folder.Text(u"wall.bmp"));
+  const QStringList words = fakes::PaintedWords(*Show());
+  EXPECT_TRUE(words.contains(QStringLiteral("TOP IMAGE PRINT REEOR !!"))) << words.join(u'|').toStdString();
+  EXPECT_TRUE(words.contains(QStringLiteral("   \"RES TOPTITLE\""))) << words.join(u'|').toStdString();
+}
+
+TEST_F(Splash, APaintedPictureTellsOfNoFailure) {
+  WriteQuarters();
+  for (const QString& words : fakes::PaintedWords(*Show())) EXPECT_FALSE(words.contains(u"RES TOPTITLE"));
+}
+
+TEST_F(Splash, AnUnusableNumberOfThePictureIsAFailureToPaintIt) {
+  WriteQuarters();
+  Set(u"WinResize", u"abc");
+  EXPECT_TRUE(fakes::PaintedWords(*Show()).contains(QStringLiteral("TOP IMAGE PRINT REEOR !!")));
 }
 
 TEST_F(Splash, WithoutATemporaryFolderTheFailureIsTold) {
