@@ -105,10 +105,8 @@ bool Document::FillControl(std::u16string text, KeepModified keep) {
   if (text.size() > textLimit_) return false;
   {
     const MutedChange muted(state_);
-    control_.SetText(std::move(text));
+    keep == KeepModified::Yes ? ReplaceText(text) : control_.SetText(std::move(text));
   }
-  unreadableBytes_ = false;
-  acceptedLoss_ = {};
   window_.RefreshStatus();
   const bool changed = keep == KeepModified::Yes;
   control_.SetModified(changed);
@@ -117,6 +115,13 @@ bool Document::FillControl(std::u16string text, KeepModified keep) {
   if (changed) window_.SetStatusPane(2, u"変更あり");
   ShowCaption();
   return true;
+}
+
+// Another text over unsaved work: one undo step brings that back.
+void Document::ReplaceText(std::u16string_view text) {
+  control_.EM_SETSEL(0, -1);
+  control_.EM_REPLACESEL(true, text);
+  control_.EM_SETSEL(0, 0);
 }
 
 void Document::TextChanged() {
@@ -158,6 +163,10 @@ void Document::ApplyOpenedFile(std::u16string_view openedPath, ReadOnly readOnly
 }
 
 void Document::NameDocument(const std::u16string& path) {
+  if (path != state_.currentFile) {
+    unreadableBytes_ = false;
+    acceptedLoss_ = {};
+  }
   onDisk_ = path.empty() ? std::nullopt : common_.PortSet().files.Status(path);
   if (!Named()) {
     state_.currentFile = common_.CFile(path, 0);

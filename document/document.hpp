@@ -34,7 +34,8 @@ class Document {
   // Each of these tells the user what went wrong by itself. True when the text was loaded or stands on disk.
   bool OpenDocument(std::u16string_view path, ReadOnly readOnly);
   bool OpenFileDialog(std::u16string_view startFolder);  // empty: the current folder
-  std::optional<FileDialogAnswer> AskFileToOpen(std::u16string_view startFolder);  // the same dialog alone
+  // The same dialog alone, with more of the dialog's flags.
+  std::optional<FileDialogAnswer> AskFileToOpen(std::u16string_view startFolder, std::uint32_t moreFlags = 0);
   bool SaveAsDialog(std::u16string_view startFolder);
   bool OverwriteSave();
   bool WriteDocument(std::u16string_view path);
@@ -57,7 +58,6 @@ class Document {
   void TextChanged();
 
   // Longest text that MainText takes, in UTF-16 units.
-  static constexpr std::size_t kLongestText = std::size_t{1} << 30;
   void LimitText(std::size_t units) { textLimit_ = units; }
 
   const FileHistory& History() const { return history_; }
@@ -121,6 +121,7 @@ class Document {
   // The document's state on display. The remark is told behind what there is to say of the file itself.
   void ApplyOpenedFile(std::u16string_view path, ReadOnly readOnly, std::u16string_view lineEnd,
                        std::u16string_view remark);
+  void ReplaceText(std::u16string_view text);
   bool FillControl(std::u16string text, KeepModified keep);
   void NameDocument(const std::u16string& path);
   void ChangeFolder();

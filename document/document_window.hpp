@@ -27,7 +27,7 @@ class DocumentWindow {
   virtual void SetScrollPosition(ScrollPosition position) = 0;  // as far as the text allows
   virtual void RefreshTagView() = 0;
   virtual void RefreshStatus() = 0;  // caret and line displays, after the whole text was replaced
-  virtual void FocusText() {}         // the keys go to MainText
+  virtual void FocusText() {}        // the keys go to MainText
   virtual void
   DocumentChanged() = 0;  // message 1151: another document or another state of it stands in MainText
 };

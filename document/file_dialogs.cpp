@@ -1,20 +1,9 @@
 // The document's two file dialogs.
 #include "document/document.hpp"
 #include "document/file_filters.hpp"
-#include "document/settings_values.hpp"
 #include "shell/common/text.hpp"
 
 namespace kestri {
-namespace {
-
-int RememberedRow(const ClassCommon& common, std::size_t rows) {
-  if (!SwitchedOn(common, u"ExtIndex")) return 1;
-  const std::int32_t row = NumberSetting(common, u"Setting", u"ExtIndexNo", 1);
-  return row >= 1 && static_cast<std::size_t>(row) <= rows ? row : 1;
-}
-
-}  // namespace
-
 std::u16string Document::StartFolder(std::u16string_view folder) const {
   std::u16string start(folder.empty() ? state_.currentFolder : folder);
   if (!common_.PathExists(start))
@@ -22,14 +11,15 @@ std::u16string Document::StartFolder(std::u16string_view folder) const {
   return common_.AppPath2(start);
 }
 
-std::optional<FileDialogAnswer> Document::AskFileToOpen(std::u16string_view startFolder) {
+std::optional<FileDialogAnswer> Document::AskFileToOpen(std::u16string_view startFolder,
+                                                        std::uint32_t moreFlags) {
   const std::vector<FilterRow> rows = OpenFilterRows(common_);
   const auto answer = dialogs_.AskOpen({.title = u"ﾌｧｲﾙを開く",
                                         .filter = FilterText(rows),
-                                        .filterIndex = RememberedRow(common_, rows.size()),
+                                        .filterIndex = StartFilterRow(common_, rows.size()),
                                         .folder = StartFolder(startFolder),
                                         .fileName = u"",
-                                        .flags = kPathMustExist | kFileMustExist});
+                                        .flags = kPathMustExist | kFileMustExist | moreFlags});
   if (answer) common_.SetINI(common_.ExeName(), u"Setting", u"ExtIndexNo", ToText(answer->filterIndex));
   return answer;
 }

@@ -70,6 +70,12 @@ std::vector<FilterRow> OpenFilterRows(const ClassCommon& common) {
   return rows;
 }
 
+int StartFilterRow(const ClassCommon& common, std::size_t rows) {
+  if (!SwitchedOn(common, u"ExtIndex")) return 1;
+  const std::int32_t row = NumberSetting(common, u"Setting", u"ExtIndexNo", 1);
+  return row >= 1 && static_cast<std::size_t>(row) <= rows ? row : 1;
+}
+
 std::vector<FilterRow> SaveFilterRows() {
   std::vector<FilterRow> rows;
   for (const SaveRow& row : kSaveRows) rows.push_back(Row(row.row));

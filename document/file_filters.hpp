@@ -18,6 +18,8 @@ struct FilterRow {
 // on.
 std::vector<FilterRow> OpenFilterRows(const ClassCommon& common);
 std::vector<FilterRow> SaveFilterRows();
+// One-based row that the open dialog starts on: the last one chosen when ExtIndex is on, else the first.
+int StartFilterRow(const ClassCommon& common, std::size_t rows);
 
 // "caption|pattern|caption|pattern", as file dialogs take it.
 std::u16string FilterText(const std::vector<FilterRow>& rows);

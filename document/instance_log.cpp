@@ -1,5 +1,7 @@
 #include "document/instance_log.hpp"
 
+#include <algorithm>
+
 #include "document/settings_values.hpp"
 #include "shell/common/code_page.hpp"
 #include "shell/common/own_processes.hpp"
@@ -90,8 +92,8 @@ void InstanceLog::Register(std::u16string_view path) const {
   });
 }
 
-void InstanceLog::Unregister(Others others) const {
-  if (others == Others::None && RemoveWhenLast()) return;
+void InstanceLog::Unregister(Others others, const IsLiving& isLiving) const {
+  if (others == Others::None && RemoveWhenLast(isLiving)) return;
   Update([&](ProfileContent& content) {
     content.DeleteKey(kFiles, FileKey(state_.windowNumber));
     content.DeleteKey(kHandles, HandleKey(state_.windowNumber));
@@ -106,11 +108,21 @@ void InstanceLog::RemoveWhenEmpty() const {
 }
 
 // An instance that started since the caller counted may have registered; it cannot while the lock is held.
-bool InstanceLog::RemoveWhenLast() const {
+bool InstanceLog::RemoveWhenLast(const IsLiving& isLiving) const {
   const auto lock = common_.PortSet().files.Lock(Path());
-  if (CountOwnProcesses(common_.PortSet().environment) > 1) return false;
+  if (CountOwnProcesses(common_.PortSet().environment) > 1 || HoldsOther(isLiving)) return false;
   common_.KillFile(Path());
   return true;
+}
+
+// A copy of the program in another folder writes into the same log.
+bool InstanceLog::HoldsOther(const IsLiving& isLiving) const {
+  const ProfileContent content = common_.Profiles().Load(Path());
+  const auto entries = content.Section(kHandles);
+  return std::any_of(entries.begin(), entries.end(), [&](const ProfileContent::Entry& entry) {
+    const std::int64_t handle = ToHandle(entry.value);
+    return handle != 0 && handle != OwnHandle() && isLiving(handle);
+  });
 }
 
 void InstanceLog::Update(const std::function<void(ProfileContent&)>& change) const {

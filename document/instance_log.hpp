@@ -33,9 +33,10 @@ class InstanceLog {
   void Register(std::u16string_view path) const;
 
   // At the window's end: only this number's entries go while other instances run, else the whole file. None
-  // is counted again under the file's lock.
+  // is made sure of under the file's lock, by the process count and by the handles in the log.
   enum class Others { Running, None };
-  void Unregister(Others others) const;
+  void Unregister(
+      Others others, const IsLiving& isLiving = [](std::int64_t) { return false; }) const;
 
   // What stands in the log for the numbers 1 to last, dead entries included. A window without a document has
   // "Win No #001" in place of its file.
@@ -50,7 +51,8 @@ class InstanceLog {
 
  private:
   std::int64_t OwnHandle() const;
-  bool RemoveWhenLast() const;
+  bool RemoveWhenLast(const IsLiving& isLiving) const;
+  bool HoldsOther(const IsLiving& isLiving) const;
   void RemoveWhenEmpty() const;
   void Update(const std::function<void(ProfileContent&)>& change) const;
 

@@ -66,7 +66,13 @@ Document::OpenResult Document::TryOpen(Opening& opening) {
   if (!AcceptsLength(opening)) return OpenResult::Declined;
   const BusyPointer busy(common_.PortSet().window);
   if (!FillControl(std::move(opening.text), KeepModified::No)) return OpenResult::TextRefused;
-  FinishOpening(opening);
+  // Until it is named the text belongs to no file, least of all to the one that stood there before.
+  state_.currentFile.clear();
+  try {
+    FinishOpening(opening);
+  } catch (const std::exception&) {
+    window_.MessageToStatusBar(u"不明なｴﾗｰが発生しました");
+  }
   return OpenResult::Loaded;
 }
 
@@ -95,11 +101,16 @@ Document::OpenResult Document::KindOfNoText(const std::u16string& longPath) {
   return OpenResult::UnknownKind;
 }
 
-// Without a separator in front the path would depend on the process's folder, which follows the document.
+// Without a separator in front the path would depend on the process's folder, which follows the document. A
+// link stays the name of the document.
 std::u16string Document::AbsolutePath(std::u16string_view path) const {
   const bool relative = common_.Style() == PathStyle::Posix && path.front() != u'/';
-  const std::u16string whole = relative ? common_.PortSet().files.Canonical(path) : std::u16string();
-  return whole.empty() ? std::u16string(path) : whole;
+  if (!relative) return std::u16string(path);
+  FileSystem& files = common_.PortSet().files;
+  if (common_.IsFileAttribute(path, kAttributeDirectory)) return files.Canonical(path);
+  const std::u16string folder = common_.CPath(path, -2);
+  const std::u16string whole = files.Canonical(folder.empty() ? std::u16string_view(u".") : folder);
+  return whole.empty() ? std::u16string(path) : common_.Join(whole, common_.CFile(path, 0));
 }
 
 std::u16string Document::ConvertLineEnds(std::u16string& text) const {
@@ -131,6 +142,7 @@ void Document::FinishOpening(const Opening& opening) {
   if (Named()) onDisk_ = opening.onDisk;  // it may have vanished while a question stood
   history_.RegisterHistory(opening.path);
   unreadableBytes_ = opening.unreadable;
+  acceptedLoss_ = {};
 }
 
 void Document::RestoreReadingPosition(const std::u16string& path) {

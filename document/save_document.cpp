@@ -48,7 +48,8 @@ bool Document::TellOverwriteRefusal(const std::u16string& path) {
 
 bool Document::WriteDocument(std::u16string_view target) {
   const std::u16string path(target);
-  return AgreesToLossyCharacters(path) && Write(path);
+  const bool itself = Named() && path == state_.currentFile;
+  return (itself ? AgreesToOverwrite(path) : AgreesToLossyCharacters(path)) && Write(path);
 }
 
 bool Document::Write(const std::u16string& path) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "document/lossy_characters.hpp"
 #include "document/settings_values.hpp"
 
 namespace kestri {
@@ -39,7 +40,11 @@ std::array<SaveSlots::Item, SaveSlots::kCount> SaveSlots::SlotSaveEdit() const {
 }
 
 bool SaveSlots::SaveSlot(std::int32_t number) const {
-  return Tell(number, u"Save", IsSlot(number) && Write(number));
+  if (!Tell(number, u"Save", IsSlot(number) && Write(number))) return false;
+  if (!LossyCharacters(control_).empty())
+    window_.MessageToStatusBar(u"Slot(" + ToText(number) +
+                               u").Save  ｼﾌﾄJISにない文字は「?」などになりました");
+  return true;
 }
 
 bool SaveSlots::LoadSlot(std::int32_t number) {

@@ -59,9 +59,8 @@ void ForEachPieceOfPage(std::u16string_view text, const TextToHtmlOptions& optio
   if (framed) sink(kTail);
 }
 
-// Line ends as opening the source would understand them.
-void RecogniseLineEnds(std::u16string& text, const ClassCommon& common) {
-  if (!SwitchedOn(common, u"CRLFCheck")) return;
+// Each line of the source gets its break, whatever ends lines there.
+void RecogniseLineEnds(std::u16string& text) {
   const std::u16string kind = ClassCommon::CrLfWinOrMac(text);
   if (kind == u"CR") text = ClassCommon::Rermutation2(text, u"\r", kCrLf, Compare::Binary, 0);
   if (kind == u"LF") text = ClassCommon::Rermutation2(text, u"\n", kCrLf, Compare::Binary, 0);
@@ -118,7 +117,7 @@ bool TextToHtml::WriteTarget(std::u16string_view sourcePath, const TextToHtmlOpt
   if (TemporaryFolderOf(common_).empty()) return false;
   std::u16string text;
   if (!common_.ReadTextFile(sourcePath, text, -1)) return false;
-  RecogniseLineEnds(text, common_);
+  RecogniseLineEnds(text);
   const std::u16string page = ConvertTextToHtml(text, options);
   return code_page::RoundTrips(page) && common_.WriteTextFile(TargetPath(), page);
 }

@@ -138,6 +138,19 @@ std::u16string TextTransforms::LineCodeCaption() const {
   return std::u16string(u"改行ｺｰﾄﾞ  [").append(kind).append(u"]");
 }
 
+bool TextTransforms::HasRoomFor(std::size_t unitsInEachLine) const {
+  const EditControl& control = text_.Control();
+  const Position start = control.SelStart();
+  const auto lines =
+      static_cast<std::size_t>(control.LineOf(start + control.SelLength()) - control.LineOf(start) + 1);
+  return static_cast<std::size_t>(control.Length()) + lines * unitsInEachLine <= kLongestText;
+}
+
+void TextTransforms::TellNoRoom() {
+  common_.PortSet().window.Beep();
+  host_.MessageToStatusBar(u"ﾃｷｽﾄが長くなりすぎるので ｲﾝﾃﾞﾝﾄできません");
+}
+
 void TextTransforms::FreeIndent(const FreeIndentChoice& choice) {
   const std::u16string unit = choice.Unit();
   if (unit.empty() || text_.RefuseIfLocked()) return;
@@ -147,6 +160,7 @@ void TextTransforms::FreeIndent(const FreeIndentChoice& choice) {
   const Position start = control.SelStart();
   const std::u16string block = control.SelText();
   const bool more = choice.direction == IndentDirection::More;
+  if (more && !HasRoomFor(unit.size())) return TellNoRoom();
   std::u16string indented = more ? IndentBlock(block, unit) : UnindentBlock(block, unit);
   // A tab that was put in may stand in the text as the blanks of its level.
   if (indented == block) indented = UnindentBlock(block, text_.ExpandTabs(unit));

@@ -47,6 +47,8 @@ class TextTransforms {
 
  private:
   void ConvertSelection(Conversion conversion);
+  bool HasRoomFor(std::size_t unitsInEachLine) const;  // of the selection
+  void TellNoRoom();
   void PressIndentKey(int keyCode, char16_t keyAscii);
 
   MainText& text_;

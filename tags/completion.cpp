@@ -1,6 +1,9 @@
 #include "tags/completion.hpp"
 
 #include <algorithm>
+#include <exception>
+
+#include "tags/dictionaries.hpp"
 
 namespace kestri {
 namespace {
@@ -24,10 +27,13 @@ constexpr bool TakesPartInNarrowing(char16_t character) {
 }
 
 // Zero-based position behind the nearest break character left of the caret: the number of that character,
-// one-based.
+// one-based. What is longer than any candidate is no word.
 Position WordStart(const EditControl& control, std::u16string_view breaks) {
-  Position at = control.SelStart();
-  while (at > 0 && breaks.find(control.At(at - 1)) == std::u16string_view::npos) --at;
+  const Position caret = control.SelStart();
+  Position at = caret;
+  while (at > 0 && breaks.find(control.At(at - 1)) == std::u16string_view::npos) {
+    if (caret - --at > kMaxFieldLength) return caret;
+  }
   return at;
 }
 
@@ -167,7 +173,27 @@ void InToTAG::Deactivate() {
   if (around_.view.Visible()) around_.view.Hide(Animation::Off, upClose_);
 }
 
+void InToTAG::Trapped(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception&) {
+    Beep();
+  }
+}
+
 void InToTAG::KeyPress(char16_t keyAscii) {
+  Trapped([&] { TakeKey(keyAscii); });
+}
+
+void InToTAG::CommitText(std::u16string_view text) {
+  Trapped([&] { TakeText(text); });
+}
+
+void InToTAG::KeyDown(ListKey key) {
+  Trapped([&] { TakeListKey(key); });
+}
+
+void InToTAG::TakeKey(char16_t keyAscii) {
   switch (keyAscii) {
     case 8:
       Backspace();
@@ -184,7 +210,7 @@ void InToTAG::KeyPress(char16_t keyAscii) {
   }
 }
 
-void InToTAG::CommitText(std::u16string_view text) {
+void InToTAG::TakeText(std::u16string_view text) {
   const auto other = std::ranges::find_if_not(text, &TakesPartInNarrowing);
   const auto typed = static_cast<std::size_t>(other - text.begin());
   for (const char16_t character : text.substr(0, typed)) TypeIntoText(character);
@@ -241,7 +267,7 @@ void InToTAG::DoubleClick(int row) {
   KeyPress(9);
 }
 
-void InToTAG::KeyDown(ListKey key) {
+void InToTAG::TakeListKey(ListKey key) {
   const int last = static_cast<int>(rows_.size()) - 1;
   const int page = std::max(around_.view.RowsPerPage() - 1, 1);
   int row = selected_;

@@ -52,7 +52,7 @@ class InToTAG {
   void HidePopup(PopupFocus focus);
   void Deactivate();  // the window lost its activation: gone without animation
 
-  // Events of the popup while it is visible.
+  // Events of the popup while it is visible. An error in them is answered by a beep; what was typed stays.
   void KeyPress(char16_t keyAscii);
   // Text that comes in one piece, from a key or an input method. What the list can be narrowed by counts as
   // typed; the first other character closes the popup, and the text from there on stays in the document.
@@ -94,6 +94,10 @@ class InToTAG {
   bool HasRowOf(std::int32_t mode) const;
   PresetResult CheckUserWords();
 
+  void Trapped(const std::function<void()>& action);
+  void TakeKey(char16_t keyAscii);
+  void TakeText(std::u16string_view text);
+  void TakeListKey(ListKey key);
   void Activate();
   void Backspace();
   void TypeIntoText(char16_t character);

@@ -11,6 +11,7 @@
 #include <QTimerEvent>
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 #include "platform/qt/qt_text.hpp"
 #include "ui/edit_view_accessible.hpp"
@@ -375,13 +376,22 @@ void EditView::RestartBlink() {
   period > 0 ? blinkTimer_.start(period / 2, this) : blinkTimer_.stop();
 }
 
+// It may copy the document; where there is no room for that the next key press does it, or says so.
+void EditView::PrepareNextEdit() {
+  try {
+    control_.PrepareEditAtCaret();
+  } catch (const std::bad_alloc&) {
+    return;
+  }
+}
+
 void EditView::timerEvent(QTimerEvent* event) {
   if (event->timerId() == blinkTimer_.timerId()) {
     caretLit_ = !caretLit_;
     viewport()->update(shownCaret_);
   } else if (event->timerId() == idleTimer_.timerId()) {
     idleTimer_.stop();
-    control_.PrepareEditAtCaret();
+    PrepareNextEdit();
   } else if (event->timerId() == autoScrollTimer_.timerId()) {
     AutoScroll();
   } else {

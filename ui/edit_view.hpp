@@ -83,6 +83,8 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool Composing() const { return !preedit_.text.isEmpty(); }
   // A composition that is open enters the text first, in the script of the mode so far.
   void SetInputMode(InputMode mode);
+  // What the input method is composing goes into the text, as when the text loses the keyboard.
+  void CommitComposition();
   InputMode ChosenInputMode() const { return inputMode_; }
   std::int32_t FirstVisibleLine() const;
   int VisibleRows() const;  // whole rows, at least 1
@@ -204,16 +206,17 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool CommandKey(QKeyEvent& event);
   void PageKey(EditKey key, KeyModifiers modifiers);
   void FinishUserEdit();
+  void PrepareNextEdit();
   void ApplyInset();
   void SetPreedit(const QInputMethodEvent& event);
   void TakeAttribute(const QInputMethodEvent::Attribute& attribute);
   void CommitFromInputMethod(const QInputMethodEvent& event);
+  bool SelectForInputMethod(const QInputMethodEvent& event);
   QPair<Position, Position> SurroundingRange() const;
 
   // edit_view_input_mode.cpp: whether the input method may take keys.
   bool InputMethodAllowed() const;
   Qt::InputMethodHints InputHints() const;
-  void CommitComposition();
   bool SwitchesInputMethodOn(const QKeyEvent& event);
 
   // edit_view_mouse.cpp: mouse, menu, the selection clipboard.
@@ -266,6 +269,8 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   QBasicTimer blinkTimer_;
   QBasicTimer idleTimer_;
   QBasicTimer autoScrollTimer_;
+
+  bool homePressed_ = false;  // here, and not released yet
 
   Inset preedit_;
   int preeditCursor_ = 0;

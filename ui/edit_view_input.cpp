@@ -6,6 +6,7 @@
 #include <QTextCharFormat>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "platform/qt/qt_text.hpp"
 #include "ui/edit_view.hpp"
@@ -24,6 +25,7 @@ enum KeyAscii : char16_t {
   kUnindentKey = 127
 };
 constexpr int kFromKeyboard = 1;
+constexpr int kDelete = 3;  // of MainText::Edit
 
 constexpr Qt::KeyboardModifiers kCommandModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
@@ -147,7 +149,8 @@ void EditView::keyPressEvent(QKeyEvent* event) {
 
 void EditView::keyReleaseEvent(QKeyEvent* event) {
   if (event->isAutoRepeat() || Composing()) return event->ignore();
-  text_.KeyUp(KeyCodeOf(*event), ShiftOf(*event));
+  const bool pressedElsewhere = event->key() == Qt::Key_Home && !std::exchange(homePressed_, false);
+  text_.KeyUp(pressedElsewhere ? 0 : KeyCodeOf(*event), ShiftOf(*event));
   PublishSelection();
   FinishUserEdit();
 }
@@ -158,6 +161,7 @@ bool EditView::ControlKey(QKeyEvent& event) {
   if (text_.KeyDown(KeyCodeOf(event), ShiftOf(event))) return true;
   const KeyModifiers modifiers{.shift = event.modifiers().testFlag(Qt::ShiftModifier),
                                .control = event.modifiers().testFlag(Qt::ControlModifier)};
+  homePressed_ = *key == EditKey::Home;
   PageKey(*key, modifiers);
   pending_.scrollCaret = true;
   Schedule();
@@ -231,15 +235,22 @@ void EditView::inputMethodEvent(QInputMethodEvent* event) {
 void EditView::CommitFromInputMethod(const QInputMethodEvent& event) {
   preedit_ = Inset();
   layouts_.ClearInset();
-  if (event.replacementLength() > 0) {
-    const Position begin = control_.Caret() + event.replacementStart();
-    text_.EM_SETSEL(begin, begin + event.replacementLength());
-  }
+  const bool replaces = event.replacementLength() > 0 && SelectForInputMethod(event);
   if (!event.commitString().isEmpty()) {
     text_.CommitInput(CommittedAs(inputMode_, FromQt(event.commitString())));
-  } else {
-    text_.WM_CLEAR();
+  } else if (replaces) {
+    text_.Edit(kDelete);
   }
+}
+
+// A method may replace only what it was shown: its idea of the text may be older than the text.
+bool EditView::SelectForInputMethod(const QInputMethodEvent& event) {
+  const auto [first, last] = SurroundingRange();
+  const std::int64_t begin = std::int64_t{control_.Caret()} + event.replacementStart();
+  const std::int64_t end = begin + event.replacementLength();
+  if (begin < first || end > last) return false;
+  text_.EM_SETSEL(static_cast<Position>(begin), static_cast<Position>(end));
+  return true;
 }
 
 void EditView::SetPreedit(const QInputMethodEvent& event) {
@@ -262,8 +273,12 @@ void EditView::TakeAttribute(const QInputMethodEvent::Attribute& attribute) {
       preedit_.formats.append({attribute.start, attribute.length, format});
     }
   } else if (attribute.type == QInputMethodEvent::Selection && !Composing()) {
-    const Position begin = SurroundingRange().first + attribute.start;
-    text_.EM_SETSEL(begin, begin + attribute.length);
+    const auto [first, last] = SurroundingRange();
+    const std::int64_t begin = std::int64_t{first} + attribute.start;
+    const auto within = [&](std::int64_t position) {
+      return static_cast<Position>(std::clamp<std::int64_t>(position, first, last));
+    };
+    text_.EM_SETSEL(within(begin), within(begin + attribute.length));
   }
 }
 

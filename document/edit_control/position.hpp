@@ -2,11 +2,15 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 namespace kestri {
 
 using Position = std::int32_t;
+
+// Units that a text may have: positions and their sums stay far from their type's end.
+inline constexpr std::size_t kLongestText = std::size_t{1} << 30;
 
 struct Selection {
   Position anchor = 0;

@@ -29,8 +29,8 @@ enum FileType : std::int32_t {
   kFileTypeOther = 9999,
 };
 
-// Flags of FileEdit, numbered as the platform's own call has them. Its other ones are about windows and questions
-// of that call, or the wastebasket, and change nothing here.
+// Flags of FileEdit, numbered as the platform's own call has them. Its other ones are about windows and
+// questions of that call, or the wastebasket, and change nothing here.
 enum FileEditFlag : std::uint32_t {
   kMultipleDestinations = 1,  // to names the new path itself, one for each path in from
   kRenameOnCollision = 8,     // a path that is taken gets a number: "a (2).htm"
@@ -109,9 +109,10 @@ class ClassCommon {
   std::u16string GetFileAttribute(std::u16string_view path) const;
   bool KillFile(std::u16string_view path) const;
   enum class FileOperation : std::uint32_t { Move = 1, Copy = 2, Delete = 3, Rename = 4 };
-  // Several paths in one list are separated by NULs. Without kMultipleDestinations a folder that exists takes what
-  // is copied or moved in under its own name. A file in the way is replaced by Copy and stops Move and Rename;
-  // a folder in the way of a copied one takes its entries in. Nothing is asked or shown. True when all was done.
+  // Several paths in one list are separated by NULs. Without kMultipleDestinations a folder that exists takes
+  // what is copied or moved in under its own name. A file in the way is replaced by Copy and stops Move and
+  // Rename; a folder in the way of a copied one takes its entries in. Nothing is asked or shown. True when
+  // all was done.
   bool FileEdit(FileOperation operation, std::u16string_view from, std::u16string_view to,
                 std::uint32_t flags = 0) const;
   // Complete path of the shortcut that CreateShortcut makes.

@@ -1,7 +1,10 @@
 #include "shell/window/settings_reader.hpp"
 
+#include <utility>
+
 #include "shell/common/code_page.hpp"
 #include "shell/common/text.hpp"
+#include "shell/common/text_number.hpp"
 
 namespace kestri {
 namespace {
@@ -19,16 +22,18 @@ std::u16string SettingsReader::Text(std::string_view section, std::string_view k
 }
 
 std::int32_t SettingsReader::Long(std::string_view section, std::string_view key, std::int32_t defaultValue) {
-  const auto value = ToLong(Text(section, key, ToText(defaultValue)));
+  const auto number = ToNumber(Text(section, key, ToText(defaultValue)));
+  const auto value = number ? RoundedToLong(*number) : std::nullopt;
   if (!value) damaged_ = true;
   return value.value_or(defaultValue);
 }
 
 std::int16_t SettingsReader::Integer(std::string_view section, std::string_view key,
                                      std::int16_t defaultValue) {
-  const auto value = ToInteger(Text(section, key, ToText(defaultValue)));
-  if (!value) damaged_ = true;
-  return value.value_or(defaultValue);
+  const std::int32_t value = Long(section, key, defaultValue);
+  if (std::in_range<std::int16_t>(value)) return static_cast<std::int16_t>(value);
+  damaged_ = true;
+  return defaultValue;
 }
 
 }  // namespace kestri

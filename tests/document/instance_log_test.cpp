@@ -163,5 +163,20 @@ TEST_F(Instances, ClosingTheLastRemovesTheFile) {
   EXPECT_FALSE(Exists(log.Path()));
 }
 
+TEST_F(Instances, ACopyInAnotherFolderKeepsItsEntries) {
+  log.Register(u"/d/a");
+  Record(u"002HWND", u"200");
+  log.Unregister(InstanceLog::Others::None, [](std::int64_t handle) { return handle == 200; });
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"001HWND"), u"(none)");
+  EXPECT_EQ(FromInstanceLog(u"HWND", u"002HWND"), u"200");
+}
+
+TEST_F(Instances, EntriesOfKilledProcessesGoWithTheLast) {
+  log.Register(u"/d/a");
+  Record(u"002HWND", u"200");
+  log.Unregister(InstanceLog::Others::None, [](std::int64_t) { return false; });
+  EXPECT_FALSE(Exists(log.Path()));
+}
+
 }  // namespace
 }  // namespace kestri

@@ -85,6 +85,18 @@ TEST_F(OpenDocument, PictureGoesToTheSiblingViewer) {
   EXPECT_EQ(Log(), Encoded(u"2003/02/01 04:05:06 ｲﾒｰｼﾞを開きます \"" + path + u"\"\r\n"));
 }
 
+TEST_F(OpenDocument, PictureGoesToASiblingViewerWithoutExtensionToo) {
+  const auto viewer = Whole("program/PicPeek");
+  std::ofstream(ToUtf8(viewer)) << "viewer";
+  fallbacks.susieExtension = u"JPG";
+  const auto path = MakeFile("a.jpg",
+                             "\xFF\xD8\x1A"
+                             "x");
+  EXPECT_FALSE(Open(path));
+  ASSERT_EQ(shell.opened.size(), 1U);
+  EXPECT_EQ(shell.opened[0], std::make_pair(viewer, path));
+}
+
 TEST_F(OpenDocument, PictureGoesToTheDesktopWhenThereIsNoSiblingViewer) {
   fallbacks.susieExtension = u"JPG";
   const auto path = MakeFile("a.jpg",
@@ -420,6 +432,40 @@ TEST_F(OpenDocument, ReadOnlyAndUnreadableBytesAreToldTogether) {
   EXPECT_EQ(ToUtf8(window.messages.back()),
             "読み取り専用で開きました  ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました");
   EXPECT_TRUE(control.Locked());
+}
+
+TEST_F(OpenDocument, AnErrorAfterTheTextStandsLeavesItUnderItsOwnNameOrNone) {
+  const auto old = MakeFile("old.txt", "old\r\n");
+  const auto fresh = MakeFile("fresh.txt", "fresh\r\n");
+  ASSERT_TRUE(Open(old));
+  window.failingIcon = true;
+  EXPECT_TRUE(Open(fresh));
+  EXPECT_EQ(control.Text(), u"fresh");
+  EXPECT_EQ(state.currentFile, fresh);
+}
+
+TEST_F(OpenDocument, AnErrorBeforeTheNameStandsLeavesNoNameToSaveUnder) {
+  Set(u"Setting", u"TextScrollPos", u"1");
+  const auto old = MakeFile("old.txt", "old\r\n");
+  ASSERT_TRUE(Open(old));
+  window.failingScroll = true;
+  EXPECT_TRUE(Open(MakeFile("fresh.txt", "fresh\r\n")));
+  EXPECT_EQ(state.currentFile, u"");
+  Type(u"x");
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(dialogs.saves.size(), 1U);
+  EXPECT_EQ(Bytes(old), "old\r\n");
+}
+
+TEST_F(OpenDocument, ARelativeLinkKeepsItsOwnName) {
+  MakeFile("page.txt", "text\r\n");
+  std::filesystem::create_symlink("page.txt", ToUtf8(Work("index.htm")));
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(ToUtf8(Work(".")));
+  EXPECT_TRUE(Open(u"index.htm"));
+  std::filesystem::current_path(before);
+  EXPECT_EQ(state.currentFile, Work("index.htm"));
+  EXPECT_EQ(state.fileKind, kFileTypeHtml);
 }
 
 }  // namespace

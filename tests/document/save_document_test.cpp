@@ -460,5 +460,21 @@ TEST_F(SaveDocument, DeclinedLossInSaveAsWritesNothing) {
   EXPECT_FALSE(Exists(Work("b.txt")));
 }
 
+TEST_F(SaveDocument, SaveAsOverTheFileItselfAsksTheSameQuestions) {
+  const auto path = OpenAndType("a.txt", "a\x81", u"x");
+  EXPECT_FALSE(document->WriteDocument(path));
+  EXPECT_EQ(boxes.asked.size(), 1U);
+  EXPECT_EQ(Bytes(path), "a\x81");
+  EXPECT_TRUE(document->WriteDocument(Work("b.txt")));
+  EXPECT_EQ(boxes.asked.size(), 1U);
+}
+
+TEST_F(SaveDocument, ASlotOverTheTextLeavesTheFilesUnreadableBytesToBeAskedFor) {
+  OpenAndType("a.txt", "a\x81", u"x");
+  ASSERT_TRUE(document->SetDocumentText(u"snapshot", KeepModified::Yes));
+  EXPECT_FALSE(document->OverwriteSave());
+  EXPECT_EQ(boxes.asked.size(), 1U);
+}
+
 }  // namespace
 }  // namespace kestri

@@ -190,5 +190,24 @@ TEST_F(Slots, MenuShowsTheTimeOfEachFilledSlotAndDashesForTheRest) {
   EXPECT_FALSE(items[9].filled);
 }
 
+TEST_F(Slots, ALoadIsTakenBackInOneStep) {
+  control.SetText(u"snapshot");
+  slots.SaveSlot(0);
+  control.SetText(u"");
+  Type(u"unsaved work");
+  slots.LoadSlot(0);
+  EXPECT_EQ(ToUtf8(control.Text()), "snapshot");
+  EXPECT_EQ(control.SelStart(), 0);
+  control.EM_UNDO();
+  EXPECT_EQ(ToUtf8(control.Text()), "unsaved work");
+}
+
+TEST_F(Slots, ASaveTellsOfCharactersThatTheSlotCannotHold) {
+  control.SetText(u"\U0001F600");
+  EXPECT_TRUE(slots.SaveSlot(2));
+  EXPECT_EQ(Told(), "Slot(2).Save  ｼﾌﾄJISにない文字は「?」などになりました");
+  EXPECT_TRUE(boxes.asked.empty());
+}
+
 }  // namespace
 }  // namespace kestri

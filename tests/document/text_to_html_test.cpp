@@ -191,13 +191,7 @@ TEST_F(TextToHtmlTest, ARefusedOpeningIsAFailureAndLeavesNoFile) {
   EXPECT_EQ(control.Text(), u"");
 }
 
-TEST_F(TextToHtmlTest, LoneLineFeedsStayWhileLineEndsAreNotRecognised) {
-  ASSERT_TRUE(Run(MakeFile("unix.txt", "a\nb"), Bare()));
-  EXPECT_EQ(Page(), "a\nb\r\n");
-}
-
-TEST_F(TextToHtmlTest, RecognisedLineEndsGetTheirBreaks) {
-  Set(u"Setting", u"CRLFCheck", u"1");
+TEST_F(TextToHtmlTest, LinesOfEveryKindGetTheirBreaks) {
   for (const char* source : {"a\nb", "a\rb"}) {
     ASSERT_TRUE(Run(MakeFile("foreign.txt", source), Bare()));
     EXPECT_EQ(Page(), "a<BR>\r\nb\r\n");

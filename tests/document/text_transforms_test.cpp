@@ -280,5 +280,15 @@ TEST(TransformRows, CaptionsDivideTheWordFromItsRemarkByATab) {
   EXPECT_EQ(CaptionWord(u"Teal"), u"Teal");
 }
 
+TEST_F(Transforms, AnIndentThatNoTextCanHoldIsRefused) {
+  std::u16string lines;
+  for (int line = 0; line < 1'100'000; ++line) lines += kCrLf;
+  desk.control.SetText(lines);
+  desk.control.EM_SETSEL(0, -1);
+  transforms.FreeIndent(Choice(IndentCharacter::HalfWidthBlank, 999, IndentDirection::More));
+  EXPECT_EQ(static_cast<std::size_t>(desk.control.Length()), lines.size());
+  EXPECT_THAT(desk.Messages(), Contains("status: ﾃｷｽﾄが長くなりすぎるので ｲﾝﾃﾞﾝﾄできません"));
+}
+
 }  // namespace
 }  // namespace kestri

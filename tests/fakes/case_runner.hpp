@@ -12,8 +12,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <ostream>
 #include <optional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -99,17 +99,19 @@ inline std::vector<FolderCase> LoadCases(const std::filesystem::path& folder) {
   return cases;
 }
 
-// Calls take(file name, content) for each file of a case's dictionaries: "== Option.lib" begins the content of a file
-// in DataFiles.
+// Calls take(file name, content) for each file of a case's dictionaries: "== Option.lib" begins the content
+// of a file in DataFiles.
 template <class Take>
 void ForEachDictionary(std::u16string_view text, Take take) {
   constexpr std::u16string_view kHead = u"== ";
   std::size_t begin = 0;
   while (begin < text.size()) {
-    if (text.substr(begin, kHead.size()) != kHead) throw std::runtime_error("dictionaries without a file name");
+    if (text.substr(begin, kHead.size()) != kHead)
+      throw std::runtime_error("dictionaries without a file name");
     const std::size_t nameEnd = std::min(text.find(u'\n', begin), text.size());
     const std::size_t next = std::min(text.find(u"\n== ", nameEnd), text.size());
-    take(text.substr(begin + kHead.size(), nameEnd - begin - kHead.size()), text.substr(nameEnd, next - nameEnd));
+    take(text.substr(begin + kHead.size(), nameEnd - begin - kHead.size()),
+         text.substr(nameEnd, next - nameEnd));
     begin = next + 1;
   }
 }

@@ -2,6 +2,7 @@
 // and a view that records what it is told.
 #pragma once
 
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -49,13 +50,15 @@ class RecordingView : public CandidateView {
     visible = true;
     ++shows;
   }
-  void SetRows(const std::vector<CandidateRow>& newRows) override {
-    rows = newRows;
-  }
+  void SetRows(const std::vector<CandidateRow>& newRows) override { rows = newRows; }
   void SetListVisible(bool on) override { listSwitches.push_back(on); }
   void MarkMode(std::int32_t mode) override { marks.push_back(mode); }
-  void Select(int row) override { selected = row; }
+  void Select(int row) override {
+    if (failing) throw std::bad_alloc();
+    selected = row;
+  }
   void SelectAtTop(int row) override {
+    if (failing) throw std::bad_alloc();
     selected = row;
     topRow = row;
   }
@@ -81,6 +84,7 @@ class RecordingView : public CandidateView {
   std::u16string tip;
   int selected = -1, topRow = -1, shows = 0;
   bool visible = false;
+  bool failing = false;
 };
 
 class FakeCaretPlace : public CaretPlace {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -15,10 +16,16 @@ class DocumentRecorder : public DocumentWindow {
   void MessageToStatusBar(std::u16string_view text) override { messages.emplace_back(text); }
   void SetStatusPane(int pane, std::u16string_view text) override { panes[pane] = text; }
   void SetCaption(std::u16string_view value) override { caption = value; }
-  void SetWindowIcon(std::u16string_view iconName) override { icon = iconName; }
+  void SetWindowIcon(std::u16string_view iconName) override {
+    if (failingIcon) throw std::bad_alloc();
+    icon = iconName;
+  }
   void HTMLToolsEnable(bool enable) override { htmlTools = enable; }
   ScrollPosition GetScrollPosition() override { return scroll; }
-  void SetScrollPosition(ScrollPosition position) override { scroll = position; }
+  void SetScrollPosition(ScrollPosition position) override {
+    if (failingScroll) throw std::bad_alloc();
+    scroll = position;
+  }
   void RefreshTagView() override { ++tagViewRefreshes; }
   void RefreshStatus() override { ++statusRefreshes; }
   void FocusText() override { ++textFocuses; }
@@ -29,6 +36,8 @@ class DocumentRecorder : public DocumentWindow {
   std::u16string caption;
   std::u16string icon = u"(never set)";
   bool htmlTools = false;
+  bool failingIcon = false;
+  bool failingScroll = false;
   ScrollPosition scroll;
   int tagViewRefreshes = 0;
   int statusRefreshes = 0;

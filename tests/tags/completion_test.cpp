@@ -704,5 +704,29 @@ TEST_F(CompletionTest, AUserWordInJapaneseGoesInWhole) {
   EXPECT_EQ(world.Shown(), u"あ 署名‸");
 }
 
+TEST_F(CompletionTest, AnErrorInAKeyOfThePopupBeepsAndTheTypedTextStays) {
+  world.SetText(u"‸");
+  world.Type(u"<a");
+  view.failing = true;
+  popup.KeyPress(u'b');
+  EXPECT_EQ(world.services.beeps, 1);
+  popup.CommitText(u"b");
+  popup.KeyDown(ListKey::Down);
+  EXPECT_EQ(world.services.beeps, 3);
+  EXPECT_EQ(world.Shown(), u"<abb‸");
+}
+
+TEST_F(CompletionTest, WhatIsLongerThanAnyCandidateIsNoWord) {
+  world.SetText(std::u16string(256, u'a') + u"‸");
+  world.commands.HTMLEdit_Click(1);
+  EXPECT_EQ(popup.Typed().size(), 256u);
+  popup.KeyPress(27);
+  world.SetText(std::u16string(257, u'a') + u"‸");
+  world.commands.HTMLEdit_Click(1);
+  EXPECT_EQ(popup.Typed(), u"");
+  popup.KeyPress(13);
+  EXPECT_EQ(world.Shown(), std::u16string(257, u'a') + u"<A‸>");
+}
+
 }  // namespace
 }  // namespace kestri

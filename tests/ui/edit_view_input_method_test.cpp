@@ -145,6 +145,35 @@ TEST(EditViewInputMethod, PreeditInALongLineOpensAtTheCaret) {
   EXPECT_EQ(desk.Control().Slice(9999, 4), u"x仮名x");
 }
 
+TEST(EditViewInputMethod, ARequestThatReachesOutOfTheTextReplacesNothing) {
+  for (const auto& [from, length] : {std::pair{-2, 2}, {-3, 3}, {-1, 100}, {5, 1}}) {
+    EditViewDesk desk;
+    desk.Put(u"a‸bc");
+    Commit(desk, QStringLiteral("X"), from, length);
+    EXPECT_EQ(desk.Row(), "aX‸bc") << from << "," << length;
+    desk.Put(u"a‸bc");
+    Commit(desk, QString(), from, length);
+    EXPECT_EQ(desk.Row(), "a‸bc") << from << "," << length;
+  }
+}
+
+TEST(EditViewInputMethod, ARequestWithinTheTextReplacesAndDeletes) {
+  EditViewDesk desk;
+  desk.Put(u"ab‸c");
+  Commit(desk, QStringLiteral("X"), -1, 1);
+  EXPECT_EQ(desk.Row(), "aX‸c");
+  Commit(desk, QString(), -2, 2);
+  EXPECT_EQ(desk.Row(), "‸c");
+}
+
+TEST(EditViewInputMethod, ASelectionThatReachesOutOfTheTextIsCut) {
+  EditViewDesk desk;
+  desk.Put(u"ab‸c");
+  QInputMethodEvent event(QString(), {{QInputMethodEvent::Selection, -5, 100, QVariant()}});
+  QApplication::sendEvent(&desk.view, &event);
+  EXPECT_EQ(desk.Row(), "⟦abc⟧");
+}
+
 }  // namespace
 }  // namespace kestri
 

@@ -185,6 +185,15 @@ TEST(EditViewKeys, KeyUpReachesTheRules) {
   EXPECT_TRUE(desk.Noted("check hint"));
 }
 
+TEST(EditViewKeys, AReleasedHomeThatWasNotPressedHereMovesNothing) {
+  EditViewDesk desk;
+  desk.Put(u"‸  text");
+  QTest::keyRelease(&desk.view, Qt::Key_Home, Qt::AltModifier);
+  EXPECT_EQ(desk.Row(), "‸  text");
+  desk.Press(u"{Home}");
+  EXPECT_EQ(desk.Row(), "  ‸text");
+}
+
 }  // namespace
 }  // namespace kestri
 
