@@ -18,10 +18,10 @@ enum FileDialogFlag : std::uint32_t {
 
 struct FileDialogRequest {
   std::u16string title;
-  std::u16string filter;      // "caption|pattern;pattern|caption|pattern"
-  int filterIndex = 1;        // one-based row
+  std::u16string filter;  // "caption|pattern;pattern|caption|pattern"
+  int filterIndex = 1;    // one-based row
   std::u16string folder;
-  std::u16string fileName;    // suggestion, a name or a whole path
+  std::u16string fileName;  // suggestion, a name or a whole path
   std::uint32_t flags = 0;
 };
 
@@ -37,7 +37,8 @@ class FileDialog {
   // Nothing on cancel.
   virtual std::optional<FileDialogAnswer> AskOpen(const FileDialogRequest& request) = 0;
   virtual std::optional<FileDialogAnswer> AskSave(const FileDialogRequest& request) = 0;
-  virtual std::optional<std::u16string> AskFolder(const std::u16string& title, const std::u16string& folder) = 0;
+  virtual std::optional<std::u16string> AskFolder(const std::u16string& title,
+                                                  const std::u16string& folder) = 0;
 };
 
 }  // namespace kestri

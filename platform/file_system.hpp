@@ -30,6 +30,12 @@ struct FileStatus {
   std::uint64_t inode = 0;               // the file's number on its volume; 0 when unknown
 };
 
+// A folder within another one, as a folder tree needs it.
+struct FolderEntry {
+  std::u16string name;
+  std::uint32_t attributes = 0;
+};
+
 // Held while one process changes a file that several share; released by the destructor.
 class FileLock {
  public:
@@ -89,6 +95,29 @@ class FileSystem {
   // Absolute path without ".", ".." or links; empty when it does not exist.
   virtual std::u16string Canonical(std::u16string_view path) = 0;
   virtual std::vector<std::u16string> List(std::u16string_view folder) = 0;  // names, without "." and ".."
+  // The folders in a folder, links to folders among them, in the volume's order; nothing when it cannot be
+  // read.
+  virtual std::vector<FolderEntry> Folders(std::u16string_view folder) {
+    std::vector<FolderEntry> folders;
+    for (std::u16string& name : List(folder)) {
+      const auto status = Status(std::u16string(folder).append(u"/").append(name));
+      const bool isFolder = status && (status->attributes & kAttributeDirectory) != 0;
+      if (isFolder) folders.push_back({std::move(name), status->attributes});
+    }
+    return folders;
+  }
+  // Whether there is any; stops at the first one.
+  virtual bool HasFolder(std::u16string_view folder) { return !Folders(folder).empty(); }
+  // The names of what Folders leaves out; links to nothing are left out too.
+  virtual std::vector<std::u16string> FileNames(std::u16string_view folder) {
+    std::vector<std::u16string> names;
+    for (std::u16string& name : List(folder)) {
+      const auto status = Status(std::u16string(folder).append(u"/").append(name));
+      const bool isFile = status && (status->attributes & kAttributeDirectory) == 0;
+      if (isFile) names.push_back(std::move(name));
+    }
+    return names;
+  }
   virtual std::uint64_t FolderSize(std::u16string_view folder) = 0;  // bytes, whole tree, links not followed
 
   // Waits until no other process or thread holds the lock of this path. Null when it cannot be locked; the

@@ -29,14 +29,17 @@ namespace {
 constexpr std::size_t kReadBlock = 256 * 1024;
 constexpr std::chrono::seconds kLockPatience{5};
 
+bool IsDotName(std::string_view name) {
+  return name.starts_with('.') && name != "." && name != "..";
+}
+
 std::uint32_t AttributesOf(const std::string& path, const struct stat& status) {
   std::uint32_t attributes = 0;
   const bool isFolder = S_ISDIR(status.st_mode);
   if (isFolder) attributes |= kAttributeDirectory;
   const bool denied = !isFolder && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0;
   if ((status.st_mode & S_IWUSR) == 0 || denied) attributes |= kAttributeReadOnly;
-  const std::string name = posix::NameOf(path);
-  if (name.starts_with('.') && name != "." && name != "..") attributes |= kAttributeHidden;
+  if (IsDotName(posix::NameOf(path))) attributes |= kAttributeHidden;
   return attributes;
 }
 
@@ -67,15 +70,43 @@ bool ReadPieces(int file, std::size_t size, const FileSystem::ByteConsumer& cons
 
 using OpenFolder = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-std::vector<std::string> NamesIn(const std::string& folder) {
-  std::vector<std::string> names;
+// Until visit(folder, entry) is false. Nothing is visited when the folder cannot be read.
+template <typename Visit>
+void ForEachEntry(const std::string& folder, const Visit& visit) {
   const OpenFolder opened(::opendir(folder.c_str()), &::closedir);
-  if (!opened) return names;
+  if (!opened) return;
   while (const dirent* entry = ::readdir(opened.get())) {
     const std::string_view name = entry->d_name;
-    if (name != "." && name != "..") names.emplace_back(name);
+    if (name != "." && name != ".." && !visit(::dirfd(opened.get()), *entry)) return;
   }
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  ForEachEntry(folder, [&names](int, const dirent& entry) {
+    names.emplace_back(entry.d_name);
+    return true;
+  });
   return names;
+}
+
+// What an entry is, links followed. Asks the volume only where the folder does not tell.
+enum class EntryKind { Folder, File, Nothing };
+EntryKind KindOf(int folder, const dirent& entry) {
+  if (entry.d_type == DT_DIR) return EntryKind::Folder;
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return EntryKind::File;
+  struct stat status {};
+  if (::fstatat(folder, entry.d_name, &status, 0) != 0) return EntryKind::Nothing;
+  return S_ISDIR(status.st_mode) ? EntryKind::Folder : EntryKind::File;
+}
+
+std::uint32_t FolderAttributes(int folder, const dirent& entry) {
+  struct stat status {};
+  std::uint32_t attributes = kAttributeDirectory;
+  const bool known = ::fstatat(folder, entry.d_name, &status, 0) == 0;
+  if (known && (status.st_mode & S_IWUSR) == 0) attributes |= kAttributeReadOnly;
+  if (IsDotName(entry.d_name)) attributes |= kAttributeHidden;
+  return attributes;
 }
 
 std::uint64_t TreeSize(const std::string& folder) {
@@ -238,6 +269,40 @@ std::vector<std::u16string> PosixFileSystem::List(std::u16string_view folder) {
   const auto native = NativePath(folder);
   if (!native) return names;
   for (const std::string& name : NamesIn(*native)) names.push_back(posix::PathText(name));
+  return names;
+}
+
+std::vector<FolderEntry> PosixFileSystem::Folders(std::u16string_view folder) {
+  std::vector<FolderEntry> folders;
+  const auto native = NativePath(folder);
+  if (!native) return folders;
+  ForEachEntry(*native, [&folders](int in, const dirent& entry) {
+    if (KindOf(in, entry) == EntryKind::Folder)
+      folders.push_back({posix::PathText(entry.d_name), FolderAttributes(in, entry)});
+    return true;
+  });
+  return folders;
+}
+
+bool PosixFileSystem::HasFolder(std::u16string_view folder) {
+  const auto native = NativePath(folder);
+  bool found = false;
+  if (!native) return found;
+  ForEachEntry(*native, [&found](int in, const dirent& entry) {
+    found = KindOf(in, entry) == EntryKind::Folder;
+    return !found;
+  });
+  return found;
+}
+
+std::vector<std::u16string> PosixFileSystem::FileNames(std::u16string_view folder) {
+  std::vector<std::u16string> names;
+  const auto native = NativePath(folder);
+  if (!native) return names;
+  ForEachEntry(*native, [&names](int in, const dirent& entry) {
+    if (KindOf(in, entry) == EntryKind::File) names.push_back(posix::PathText(entry.d_name));
+    return true;
+  });
   return names;
 }
 

@@ -32,6 +32,9 @@ class PosixFileSystem : public FileSystem {
   std::optional<std::u16string> LinkText(std::u16string_view path) override;
   std::u16string Canonical(std::u16string_view path) override;
   std::vector<std::u16string> List(std::u16string_view folder) override;
+  std::vector<FolderEntry> Folders(std::u16string_view folder) override;
+  bool HasFolder(std::u16string_view folder) override;
+  std::vector<std::u16string> FileNames(std::u16string_view folder) override;
   std::uint64_t FolderSize(std::u16string_view folder) override;
   // Lock files live in $XDG_RUNTIME_DIR/kestrile/locks or, without that, in $XDG_STATE_HOME/kestrile/locks.
   // Waits at most five seconds.

@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QSessionManager>
 #include <QShortcut>
+#include <QSplitter>
 #include <QWindow>
 
+#include "browse/forms/DirFrame.hpp"
 #include "platform/qt/japanese_labels.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "shell/forms/icons.hpp"
@@ -79,7 +81,9 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
   ConnectHint();
   popupForm_.Attach(&popup_);
   fonts_.SetStylesOffered(false);
-  setCentralWidget(view_);
+  frameReSise_ = new QSplitter(this);
+  frameReSise_->addWidget(view_);
+  setCentralWidget(frameReSise_);
   Tell(u"ﾒﾓﾘ初期化中...");
   BuildMenus();
   Tell(u"ｱﾌﾟﾘｹｰｼｮﾝ設定中...");
@@ -104,8 +108,9 @@ HTMLfrm::HTMLfrm(Services services, WindowSettings settings)
   timeP_.start(settings_.timerPeriod);
 }
 
-// The view goes before the control that it listens to.
+// The folder bar goes before the window that it asks, the view before the control that it listens to.
 HTMLfrm::~HTMLfrm() {
+  delete dirFrame_;
   delete view_;
 }
 
@@ -131,6 +136,7 @@ void HTMLfrm::BuildMenus() {
   panes_ = new StatusPanes(this);
   actions_ = new CommandActions(commands_,
                                 {.hint = [this](int hint) { ShowHint(hint); },
+                                 .starting = [this] { view_->CommitComposition(); },
                                  .unknownError =
                                      [this] {
                                        services_.boxes.Ask({.text = u"不明なｴﾗｰが発生しました",
@@ -171,10 +177,14 @@ void HTMLfrm::ApplyFont() {
 void HTMLfrm::AddIcons() {
   Tell(u"ﾘｿｰｽ中からｱｲｺﾝ抽出中...");
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrile.svg")));
-  if (toolBar_ != nullptr) toolBar_->AddIcons();
+  if (toolBar_ != nullptr) AddToolIcons();
   if (settings_.menIcon == 0) return;
   Tell(u"ﾒﾆｭｰｱｲｺﾝ設定中...");
   actions_->AddIcons();
+}
+
+void HTMLfrm::AddToolIcons() {
+  toolBar_->AddIcons(settings_.menIcon != 0 ? ToolBar::MenuIcons::With : ToolBar::MenuIcons::Without);
 }
 
 void HTMLfrm::RestoreBars() {
@@ -183,25 +193,25 @@ void HTMLfrm::RestoreBars() {
                           .externalProgram = [this](int index) { return programs_.ProgramName(index); },
                           .hintGone = [this] { ShowHint(0); }});
   addToolBar(toolBar_);
-  floatingBar_ = new Toolbar1({.owner = *this,
-                               .bar = *toolBar_,
-                               .common = services_.common,
-                               .closeRequested = [this] { LayOutBars(); }},
-                              settings_.toolBar);
-  if (services_.progress != nullptr) toolBar_->AddIcons();
+  floatingBar_ = new Toolbar1(
+      {.owner = *this, .bar = *toolBar_, .common = services_.common, .closeRequested = [this] { BarSet(); }},
+      settings_.toolBar);
+  if (services_.progress != nullptr) AddToolIcons();
   setStatusBar(panes_);
   panes_->setMinimumHeight(ToPixels(settings_.statusBarHeight));
   floatingBar_->ShowBar(settings_.toolBarShow != 0);
   panes_->setVisible(settings_.statusBarShow != 0);
+  if (settings_.folderBarShow != 0) MakeFolderBar();
 }
 
 // By the settings as they stand in the file now.
-void HTMLfrm::LayOutBars() {
+void HTMLfrm::BarSet() {
   const auto shown = [this](std::u16string_view key) {
     return services_.common.GetINI(services_.common.ExeName(), u"Bar", key, u"1") != u"0";
   };
   floatingBar_->ShowBar(shown(u"ToolBarShow0"));
   panes_->setVisible(shown(u"StatusBar0"));
+  ShowFolderBar(shown(u"DirTree"));
   view_->setFocus();
 }
 
@@ -228,15 +238,16 @@ void HTMLfrm::FinishLoading() {
   services_.progress = nullptr;
   loaded_ = true;
   setWindowIcon(QIcon::fromTheme(iconName_));
+  FillFolderBar();
   InstallJapaneseLabels();
   CountStart(services_.common);
-  services_.instances.Announce([this] { return FromQt(windowTitle()); }, [this] { BringToFront(); });
+  services_.instances.Announce([this] { return caption_; }, [this] { BringToFront(); });
 }
 
 void HTMLfrm::SetLoading(bool loading) {
   menuBar()->setEnabled(!loading);
   toolBar_->setEnabled(!loading);
-  view_->setEnabled(!loading);
+  frameReSise_->setEnabled(!loading);
   setEnabled(!loading);
   if (!loading) view_->setFocus();
 }

@@ -1,11 +1,13 @@
 // HTMLfrm: the editor window. It shows state and passes events; the rules live in the logic it owns.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <memory>
 
 #include "browse/file_list.hpp"
+#include "browse/folder_bar_host.hpp"
 #include "document/document.hpp"
 #include "document/forms/EditSubFrm.hpp"
 #include "document/main_text.hpp"
@@ -35,15 +37,19 @@
 #include "ui/program_resources.hpp"
 
 class QSessionManager;
+class QSplitter;
 
 namespace kestri {
+
+class DirFrame;
 
 class HTMLfrm : public QMainWindow,
                 private MainTextHost,
                 private DocumentWindow,
                 private EditorWindow,
                 private SwitchedWindow,
-                private FileListWindow {
+                private FileListWindow,
+                private FolderBarHost {
  public:
   struct Services {
     const ClassCommon& common;
@@ -68,6 +74,10 @@ class HTMLfrm : public QMainWindow,
   // While the window loads behind a splash nothing in it can be used.
   void SetLoading(bool loading);
 
+  // The question of a close, asked by a desktop that ends the session and closes the window right after it:
+  // the answer counts for that close too.
+  bool AgreesToEnd();
+
   bool OpenDocument(std::u16string_view path);
   void ShowFileList(FileListStart start);
   EditControl& Control() { return control_; }
@@ -90,8 +100,12 @@ class HTMLfrm : public QMainWindow,
   void ShowHint(int hint);  // 0: takes the hint away
   void ApplySettings();
   void AddIcons();
+  void AddToolIcons();
   void RestoreBars();
-  void LayOutBars();
+  void BarSet();
+  // The folder bar is made when it is shown for the first time, and filled once the window stands.
+  void MakeFolderBar();
+  void FillFolderBar();
   void PlaceWindow();
   void InstallSubclass(int mode);
   void StartFirstDocument();
@@ -148,6 +162,7 @@ class HTMLfrm : public QMainWindow,
   InputMode InputModeShown() const override { return view_->ChosenInputMode(); }
   void ShowInputMode(InputMode mode) override { view_->SetInputMode(mode); }
   void RefreshAllControls() override;
+  void EnterFolderBar() override;
   EditSubFrm::Dialogs InsertBarDialogs();
 
   // SwitchedWindow
@@ -157,6 +172,9 @@ class HTMLfrm : public QMainWindow,
   void DockToolBar(bool docked) override { floatingBar_->SetDocked(docked); }
   bool StatusBarVisible() const override { return !panes_->isHidden(); }
   void ShowStatusBar(bool visible) override { panes_->setVisible(visible); }
+  bool FolderBarVisible() const override;
+  void ShowFolderBar(bool visible) override;
+  int FolderBarWidth() const override { return settings_.directoryTreeWidth; }
   void ShowGuideLines(bool visible) override { view_->SetGuideLines(visible); }
   bool LineNumbersVisible() const override { return text_.Subclassed(); }
   void ShowLineNumbers(bool visible) override { InstallSubclass(visible ? 1 : 0); }
@@ -165,6 +183,15 @@ class HTMLfrm : public QMainWindow,
   // FileListWindow
   bool OpenFromList(std::u16string_view path) override { return OpenDocument(path); }
   bool NewFromList(std::int16_t kind) override;
+
+  // FolderBarHost
+  bool ConfirmDiscard(std::u16string_view verb) override { return document_.ConfirmDiscard(verb); }
+  bool OpenDocument(std::u16string_view path, bool readOnly) override;
+  void OpenDialogAt(std::u16string_view folder) override { document_.OpenFileDialog(folder); }
+  void SaveAsDialogAt(std::u16string_view folder) override { document_.SaveAsDialog(folder); }
+  void ConvertToHtml(std::u16string_view path) override;
+  void InsertAtCaret(std::u16string_view text) override;
+  std::u16string CurrentFile() const override { return services_.state.currentFile; }
 
   Services services_;
   WindowSettings settings_;
@@ -195,9 +222,13 @@ class HTMLfrm : public QMainWindow,
   ToolBar* toolBar_ = nullptr;
   Toolbar1* floatingBar_ = nullptr;
   StatusPanes* panes_ = nullptr;
+  QSplitter* frameReSise_ = nullptr;  // between folder bar and text
+  DirFrame* dirFrame_ = nullptr;
   QTimer timeP_;
-  QString iconName_;     // of the document's kind, in the icon theme
-  bool loaded_ = false;  // pictures may be read
+  std::u16string caption_;
+  QDeadlineTimer agreedToEnd_;  // until then the question at the session's end counts for the close behind it
+  QString iconName_;            // of the document's kind, in the icon theme
+  bool loaded_ = false;         // pictures may be read
 };
 
 }  // namespace kestri

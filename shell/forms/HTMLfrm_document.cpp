@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QProcess>
 
+#include "browse/forms/DirFrame.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "shell/forms/HTMLfrm.hpp"
 #include "shell/window/status_text.hpp"
@@ -70,7 +71,9 @@ void HTMLfrm::OpenInNewInstance(std::u16string_view path) {
 }
 
 void HTMLfrm::SetCaption(std::u16string_view caption) {
-  setWindowTitle(ToQt(caption));
+  caption_ = caption;
+  // "[*]" is the toolkit's place for a mark of its own; twice it stands for itself.
+  setWindowTitle(ToQt(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
 }
 
 // Without an icon of its own the window shows the program's.
@@ -101,6 +104,7 @@ void HTMLfrm::DocumentChanged() {
   hints_.seTagHide();
   ResetCaretMemo();
   PaintTextDecor(Decor::Full);
+  if (dirFrame_ != nullptr) dirFrame_->RefreshFiles();
 }
 
 }  // namespace kestri

@@ -7,6 +7,7 @@
 #include "platform/qt/qt_text.hpp"
 #include "shell/common/own_processes.hpp"
 #include "shell/forms/HTMLfrm.hpp"
+#include "shell/forms/end_of_session.hpp"
 #include "shell/forms/window_rectangles.hpp"
 #include "shell/window/status_text.hpp"
 #include "ui/top_most.hpp"
@@ -53,7 +54,8 @@ void HTMLfrm::ApplyTopMost() {
 
 void HTMLfrm::closeEvent(QCloseEvent* event) {
   popup_.Deactivate();
-  if (!document_.ConfirmDiscard(u"終了")) {
+  view_->CommitComposition();
+  if (agreedToEnd_.hasExpired() && !document_.ConfirmDiscard(u"終了")) {
     event->ignore();
     return;
   }
@@ -67,9 +69,15 @@ void HTMLfrm::closeEvent(QCloseEvent* event) {
 }
 
 void HTMLfrm::EndOfSession(QSessionManager& session) {
-  if (!session.allowsInteraction()) return;
-  if (!document_.ConfirmDiscard(u"終了")) session.cancel();
-  session.release();
+  AnswerEndOfSession(session, [this] { return AgreesToEnd(); });
+}
+
+bool HTMLfrm::AgreesToEnd() {
+  constexpr int kMilliseconds = 10'000;
+  view_->CommitComposition();
+  if (!document_.ConfirmDiscard(u"終了")) return false;
+  agreedToEnd_.setRemainingTime(kMilliseconds);
+  return true;
 }
 
 void HTMLfrm::ShowClosing() {
@@ -96,7 +104,8 @@ void HTMLfrm::LeaveInstances() {
     services_.effects.SetAnimation(-1, UiEffects::kComboBoxes);
   }
   InstanceLog(services_.common, services_.state)
-      .Unregister(last ? InstanceLog::Others::None : InstanceLog::Others::Running);
+      .Unregister(last ? InstanceLog::Others::None : InstanceLog::Others::Running,
+                  AmongInstances(services_.instances));
 }
 
 void HTMLfrm::CloseOtherForms() {

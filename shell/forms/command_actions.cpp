@@ -72,6 +72,7 @@ QAction* CommandActions::Action(const CommandRow& row) {
 
 void CommandActions::Run(const CommandRow& row) {
   try {
+    tell_.starting();
     if (row.enabled(commands_)) {
       row.run(commands_);
     } else if (IsOfText(row.menu)) {

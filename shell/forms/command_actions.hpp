@@ -17,10 +17,11 @@ namespace kestri {
 
 class CommandActions : public QObject {
  public:
-  // For the user: the number of an item's hint when it is pointed at (0: none), and an error that a command
-  // raised.
+  // The number of an item's hint when it is pointed at (0: none), a command that is about to run, and an
+  // error that it raised.
   struct Tell {
     std::function<void(int)> hint;
+    std::function<void()> starting;
     std::function<void()> unknownError;
   };
   // The window takes the shortcuts.

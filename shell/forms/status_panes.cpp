@@ -7,6 +7,8 @@
 #include <QtMath>
 #include <algorithm>
 
+#include "ui/plain_tip.hpp"
+
 namespace kestri {
 namespace {
 
@@ -60,8 +62,7 @@ void StatusPane::paintEvent(QPaintEvent*) {
 bool StatusPane::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const bool cut = WidthOf(text_) > width();
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut ? text_.toHtmlEscaped() : QString(),
-                     this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut ? PlainTip(text_) : QString(), this);
   return true;
 }
 

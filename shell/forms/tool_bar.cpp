@@ -87,7 +87,8 @@ void ToolBar::AddEntry(QMenu& menu, const ToolEntry& entry) {
   }
   const CommandRow* command = FindCommand(entry.array, entry.index);
   if (command == nullptr) return;
-  QAction* action = menu.addAction(CommandIcon(command->icon), EntryCaption(entry, *command));
+  QAction* action = menu.addAction(EntryCaption(entry, *command));
+  if (menuIcons_ == MenuIcons::With) action->setIcon(CommandIcon(command->icon));
   action->setObjectName(KeyName(entry.key));
   action->setEnabled(actions_.MayRun(*command));
   connect(action, &QAction::hovered, actions_.Action(*command), &QAction::hover);
@@ -142,8 +143,9 @@ void ToolBar::FollowDocument() {
   }
 }
 
-void ToolBar::AddIcons() {
+void ToolBar::AddIcons(MenuIcons menuIcons) {
   withIcons_ = true;
+  menuIcons_ = menuIcons;
   for (const Button& button : buttons_) {
     const bool ofDocument = button.row->kind == ToolKind::ToolOfDocument;
     button.action->setIcon(CommandIcon(ofDocument ? ToolOfDocument(shownKind_).icon : button.row->icon));

@@ -23,7 +23,8 @@ class ToolBar : public QToolBar {
  public:
   ToolBar(CommandActions& actions, QWidget* parent, ToolBarState state = {});
 
-  void AddIcons();
+  enum class MenuIcons { Without, With };
+  void AddIcons(MenuIcons menuIcons);
   // Which buttons may be pressed and which are pressed in. Cheap; the window's timer calls it.
   void RefreshStates();
 
@@ -51,6 +52,7 @@ class ToolBar : public QToolBar {
   std::vector<Button> buttons_;
   std::int32_t shownKind_ = 0;
   bool withIcons_ = false;
+  MenuIcons menuIcons_ = MenuIcons::Without;
 };
 
 }  // namespace kestri

@@ -17,6 +17,10 @@ inline int ToPixels(std::int32_t twips) {
   return twips / kTwipsPerPixel;
 }
 
+inline std::int32_t ToTwips(int pixels) {
+  return pixels * kTwipsPerPixel;
+}
+
 inline QRect ToPixels(const WindowRectangle& twips) {
   return {ToPixels(twips.left), ToPixels(twips.top), ToPixels(twips.width), ToPixels(twips.height)};
 }

@@ -62,7 +62,8 @@ void EditorCommands::OpenBlankWindow() {
 }
 
 void EditorCommands::OpenInNewWindow() {
-  const auto answer = around_.document.AskFileToOpen(u"");
+  // The other process decides by itself how it opens the file.
+  const auto answer = around_.document.AskFileToOpen(u"", kHideReadOnly);
   if (answer) around_.window.StartInstance(answer->fileName);
 }
 
@@ -163,6 +164,8 @@ void EditorCommands::EditTemplate(int kind) {
   }
   around_.document.SetDocumentText(u"", KeepModified::No);
   around_.document.ApplyOpenedFile(path, ReadOnly::No, u"CR+LF");
+  // A save asks for the name, and begins where templates are looked for.
+  around_.state.currentFolder = around_.common.CPath(path, -2);
 }
 
 void EditorCommands::OpenHelp(std::u16string_view fileName) {

@@ -39,6 +39,7 @@ class EditorWindow {
   virtual InputMode InputModeShown() const = 0;
   virtual void ShowInputMode(InputMode mode) = 0;
   virtual void RefreshAllControls() = 0;
+  virtual void EnterFolderBar() = 0;  // the keyboard goes there; a hidden bar comes first
 };
 
 class EditorCommands {

@@ -31,12 +31,13 @@ ViewSwitches::Reach ViewSwitches::AskReach() {
   return answer == MessageAnswer::No ? Reach::ThisWindow : Reach::Cancelled;
 }
 
-void ViewSwitches::Switch(bool on, void (SwitchedWindow::*show)(bool), std::u16string_view section,
-                          std::u16string_view key) {
+ViewSwitches::Reach ViewSwitches::Switch(bool on, void (SwitchedWindow::*show)(bool),
+                                         std::u16string_view section, std::u16string_view key) {
   const Reach reach = AskReach();
-  if (reach == Reach::Cancelled) return;
+  if (reach == Reach::Cancelled) return reach;
   (window_.*show)(on);
   if (reach == Reach::Remembered) common_.SetINI(common_.ExeName(), section, key, on ? u"1" : u"0");
+  return reach;
 }
 
 void ViewSwitches::ToggleToolBar() {
@@ -45,6 +46,12 @@ void ViewSwitches::ToggleToolBar() {
 
 void ViewSwitches::ToggleStatusBar() {
   Switch(!StatusBarShown(), &SwitchedWindow::ShowStatusBar, u"Bar", u"StatusBar0");
+}
+
+void ViewSwitches::ToggleFolderBar() {
+  if (Switch(!FolderBarShown(), &SwitchedWindow::ShowFolderBar, u"Bar", u"DirTree") != Reach::Remembered)
+    return;
+  common_.SetINI(common_.ExeName(), u"Bar", u"DirectoryTreeWidth", ToText(window_.FolderBarWidth()));
 }
 
 void ViewSwitches::ToggleLineNumbers() {

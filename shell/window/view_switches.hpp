@@ -21,6 +21,9 @@ class SwitchedWindow {
   virtual void DockToolBar(bool docked) = 0;
   virtual bool StatusBarVisible() const = 0;
   virtual void ShowStatusBar(bool visible) = 0;
+  virtual bool FolderBarVisible() const = 0;
+  virtual void ShowFolderBar(bool visible) = 0;
+  virtual int FolderBarWidth() const = 0;  // twips, while hidden too
   virtual void ShowGuideLines(bool visible) = 0;
   virtual bool LineNumbersVisible() const = 0;
   virtual void ShowLineNumbers(bool visible) = 0;  // installs or ends the subclass of the text
@@ -35,6 +38,7 @@ class ViewSwitches {
 
   bool ToolBarShown() const { return window_.ToolBarVisible(); }
   bool StatusBarShown() const { return window_.StatusBarVisible(); }
+  bool FolderBarShown() const { return window_.FolderBarVisible(); }
   bool GuideLinesShown() const { return state_.gLine != 0; }
   bool LineNumbersShown() const { return window_.LineNumbersVisible(); }
   bool TopMost() const;
@@ -45,6 +49,7 @@ class ViewSwitches {
   // whether this window alone is meant; a cancelled question changes nothing.
   void ToggleToolBar();
   void ToggleStatusBar();
+  void ToggleFolderBar();  // its width is remembered with it
   void ToggleLineNumbers();
   void ToggleGuideLines();
   void ToggleTopMost();
@@ -54,8 +59,8 @@ class ViewSwitches {
  private:
   enum class Reach { Cancelled, ThisWindow, Remembered };
   Reach AskReach();
-  void Switch(bool on, void (SwitchedWindow::*show)(bool), std::u16string_view section,
-              std::u16string_view key);
+  Reach Switch(bool on, void (SwitchedWindow::*show)(bool), std::u16string_view section,
+               std::u16string_view key);
 
   const ClassCommon& common_;
   ApplicationState& state_;

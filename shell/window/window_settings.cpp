@@ -19,6 +19,8 @@ constexpr std::int32_t kSmallestFont = 4;  // points
 constexpr std::int32_t kLargestFont = 200;
 constexpr std::int32_t kLowestBar = 150;  // twips
 constexpr std::int32_t kHighestBar = 1500;
+constexpr std::int32_t kNarrowestBar = 900;
+constexpr std::int32_t kWidestBar = 15000;
 constexpr std::int16_t kMostTabSpaces = 4;  // the largest level that the settings offer: 16 blanks
 
 void LoadEditing(SettingsReader& reader, ApplicationState& state) {
@@ -50,7 +52,9 @@ void LoadLook(SettingsReader& reader, WindowSettings& settings) {
   settings.statusBarShow = reader.Integer(kBar, "StatusBar0", 1);
   settings.statusBarHeight = std::clamp(reader.Long(kBar, "StatusBarHeight", 300), kLowestBar, kHighestBar);
   settings.toolBar = ReadToolBarPlace(reader);
-  settings.directoryTreeWidth = reader.Long(kBar, "DirectoryTreeWidth", 3000);
+  settings.folderBarShow = reader.Integer(kBar, "DirTree", 1);
+  settings.directoryTreeWidth =
+      std::clamp(reader.Long(kBar, "DirectoryTreeWidth", 3000), kNarrowestBar, kWidestBar);
   settings.timerPeriod = std::clamp<std::int32_t>(reader.Integer(kSetting, "ClTimer", 2), 1, 5) * 50 + 1;
 }
 

@@ -36,7 +36,8 @@ struct WindowSettings {
   std::int16_t toolBarShow = 1;
   ToolBarPlace toolBar;
   std::int16_t statusBarShow = 1;
-  std::int32_t statusBarHeight = 300;      // twips
+  std::int32_t statusBarHeight = 300;  // twips
+  std::int16_t folderBarShow = 1;
   std::int32_t timerPeriod = 101;          // milliseconds
   std::int32_t directoryTreeWidth = 3000;  // twips
   HintCharacter hintCharacter;

@@ -28,7 +28,7 @@ press End Return n o t e shift+Home alt+Right k Return
 page_of "$(printf 'ａｂｃ　１２３\r\n｢note｣')" >"$work/expected.htm"
 
 # The snapshot in slot 0.
-press ctrl+shift+Up
+press ctrl+shift+k
 slot="$work/Kestrile/SlotSave/無題.htm.s00"
 await cmp "$slot" "$work/expected.htm"
 

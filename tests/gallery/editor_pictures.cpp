@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QToolButton>
 
+#include "browse/forms/DirFrame.hpp"
 #include "tests/gallery/gallery_desk.hpp"
 #include "tests/gallery/layout_checks.hpp"
 #include "tests/gallery/windows.hpp"
@@ -14,11 +15,15 @@ QString Numbered(const char* words, int number) {
   return QStringLiteral("%1%2").arg(QString::fromLatin1(words)).arg(number, 2, 10, QLatin1Char('0'));
 }
 
+// Of the folder tree's menu the words are given: its rows for opening and saving share one.
+enum class Mnemonics { Distinct, AsGiven };
+
 // The menu and, each by itself, the menus inside it.
-void TakeMenu(Gallery& gallery, const QString& name, QWidget& window, QMenu& menu, QPoint at) {
+void TakeMenu(Gallery& gallery, const QString& name, QWidget& window, QMenu& menu, QPoint at,
+              Mnemonics mnemonics = Mnemonics::Distinct) {
   menu.popup(at);
   gallery.Take(name, window);
-  gallery.Tell(name, ClashingMnemonics(menu));
+  if (mnemonics == Mnemonics::Distinct) gallery.Tell(name, ClashingMnemonics(menu));
   const QList<QAction*> actions = menu.actions();
   for (int i = 0; i < actions.size(); ++i) {
     QMenu* inner = actions[i]->menu();
@@ -60,6 +65,25 @@ void TakePopup(Gallery& gallery, GalleryDesk& desk) {
   desk.Press(u"{Esc}");
 }
 
+void TakeHint(Gallery& gallery, GalleryDesk& desk) {
+  desk.PutCaretBehind(u"<a");
+  desk.Press(u"{Left}");
+  gallery.Take(QStringLiteral("LabelText"), *desk.window);
+  desk.Press(u"{Esc}");
+}
+
+void TakeFolderBar(Gallery& gallery, GalleryDesk& desk) {
+  auto& bar = *desk.window->findChild<DirFrame*>();
+  bar.Bar().dirTreeFile.SetListIndex(0);
+  desk.window->resize(760, 520);
+  gallery.Take(QStringLiteral("DirFrame"), *desk.window);
+  gallery.Tell(QStringLiteral("DirFrame"), FieldsOutOfReach(bar));
+  const QPoint at = bar.mapToGlobal(QPoint(60, 40));
+  TakeMenu(gallery, QStringLiteral("DirFrame-tree"), *desk.window, *bar.DirTreeMenu(), at,
+           Mnemonics::AsGiven);
+  TakeMenu(gallery, QStringLiteral("DirFrame-files"), *desk.window, *bar.DirTreeFileMenu(), at);
+}
+
 }  // namespace
 
 void TakeEditor(Gallery& gallery) {
@@ -71,7 +95,9 @@ void TakeEditor(Gallery& gallery) {
   desk.Run("Edit", 5);
   gallery.Take(QStringLiteral("HTMLfrm-selected"), *desk.window);
   TakePopup(gallery, desk);
+  TakeHint(gallery, desk);
   desk.Run("MenFileM", 3);
+  TakeFolderBar(gallery, desk);
   desk.window->resize(420, 300);
   gallery.Take(QStringLiteral("HTMLfrm-small"), *desk.window);
 }

@@ -17,6 +17,7 @@ class GalleryDesk : public fakes::EditorDesk {
   GalleryDesk() {
     CopyDataFiles();
     Set(u"Setting", u"HintAnimation", u"0");
+    Set(u"Setting", u"NawPath", folder.Text());
     Open();
     window->FinishLoading();
     window->resize(kWindowSize);

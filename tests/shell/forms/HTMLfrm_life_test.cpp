@@ -218,7 +218,10 @@ TEST_F(Life, ReportsCanBeReadWhole) {
   desk.Put(u"あいう‸");
   desk.Run("SearEdit", 6);
   QApplication::processEvents();
-  const auto panes = desk.window->Panes().findChildren<StatusPane*>();
+  std::vector<const StatusPane*> panes;
+  for (const QWidget* child : desk.window->Panes().findChildren<QWidget*>()) {
+    if (const auto* pane = dynamic_cast<const StatusPane*>(child)) panes.push_back(pane);
+  }
   for (const StatusPane* pane : panes) {
     if (pane->Text().startsWith(QStringLiteral("現在の"))) {
       EXPECT_GE(pane->width(), pane->WidthOf(pane->Text()));
@@ -261,6 +264,70 @@ TEST_F(Life, MaximizedCloseKeepsTheEarlierRectangle) {
   window.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
   window.close();
   EXPECT_EQ(Kept(u"Setting", u"HTMLfrmWidth"), u"6000");
+}
+
+TEST_F(Life, ASavedTemplateLandsWhereTemplatesAreLookedFor) {
+  desk.Open();
+  desk.Run("TmpLEdit", 7);
+  desk.Press(u"x{Ctrl+S}");
+  ASSERT_EQ(desk.dialogs.saves.size(), 1u);
+  EXPECT_EQ(desk.dialogs.saves[0].fileName, desk.folder.Text(u"DataFiles/NewData7.fmtdat"));
+}
+
+TEST_F(Life, AMarkOfTheToolkitInAFileNameShowsAsItStands) {
+  desk.folder.Write("a[*].htm", "x\r\n");
+  desk.Open();
+  ASSERT_TRUE(desk.window->OpenDocument(desk.folder.Text(u"a[*].htm")));
+  EXPECT_TRUE(desk.window->windowTitle().startsWith(QStringLiteral("a[*][*].htm - ")));
+}
+
+TEST_F(Life, OtherWindowsAreOpenedWithoutTheReadOnlyBox) {
+  desk.Open();
+  desk.Run("MenFileOpenEx", 1);
+  ASSERT_EQ(desk.dialogs.opens.size(), 1u);
+  EXPECT_TRUE((desk.dialogs.opens[0].flags & kHideReadOnly) != 0);
+}
+
+TEST_F(Life, ACommandFromTheMenuTakesWhatIsBeingComposedWithIt) {
+  desk.folder.Write("page.htm", "x\r\n");
+  desk.Open();
+  ASSERT_TRUE(desk.window->OpenDocument(desk.folder.Text(u"page.htm")));
+  QInputMethodEvent composing(QStringLiteral("にほん"), {});
+  QApplication::sendEvent(&desk.window->TextView(), &composing);
+  ASSERT_TRUE(desk.window->TextView().Composing());
+  desk.Run("MenFileM", 3);
+  EXPECT_FALSE(desk.window->TextView().Composing());
+  EXPECT_EQ(desk.folder.Read("page.htm"), code_page::Encode(u"にほんx\r\n"));
+}
+
+TEST_F(Life, ACloseAsksForWhatIsBeingComposedToo) {
+  desk.Open();
+  QInputMethodEvent composing(QStringLiteral("に"), {});
+  QApplication::sendEvent(&desk.window->TextView(), &composing);
+  desk.boxes.answers = {MessageAnswer::Cancel};
+  desk.window->close();
+  EXPECT_EQ(desk.Row(), "に‸");
+  EXPECT_TRUE(desk.window->isVisible());
+}
+
+TEST_F(Life, TheAnswerAtTheSessionsEndCountsForTheCloseBehindIt) {
+  desk.Open();
+  desk.Press(u"x");
+  desk.boxes.answers = {MessageAnswer::No};
+  EXPECT_TRUE(desk.window->AgreesToEnd());
+  desk.window->close();
+  EXPECT_EQ(desk.boxes.asked.size(), 1u);
+  EXPECT_FALSE(desk.window->isVisible());
+}
+
+TEST_F(Life, WhoStaysAtTheSessionsEndIsAskedAgainByTheNextClose) {
+  desk.Open();
+  desk.Press(u"x");
+  desk.boxes.answers = {MessageAnswer::Cancel, MessageAnswer::Cancel};
+  EXPECT_FALSE(desk.window->AgreesToEnd());
+  desk.window->close();
+  EXPECT_EQ(desk.boxes.asked.size(), 2u);
+  EXPECT_TRUE(desk.window->isVisible());
 }
 
 }  // namespace

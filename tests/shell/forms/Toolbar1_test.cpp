@@ -132,6 +132,32 @@ TEST_F(Toolbar1Test, TheUsersCloseDocksTheBar) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return desk.window->TextView().hasFocus(); }));
 }
 
+TEST_F(Toolbar1Test, TheUsersCloseLaysTheBarsOutAsTheSettingsStandByThen) {
+  for (const auto& [toolBarShown, statusBarShown] : {std::pair{false, true}, {true, false}, {false, false}}) {
+    desk.Set(u"Bar", u"ToolBarShow0", u"1");
+    desk.Set(u"Bar", u"StatusBar0", u"1");
+    OpenFloating();
+    ASSERT_FALSE(desk.window->Panes().isHidden());
+    // Another process changes them.
+    desk.Set(u"Bar", u"ToolBarShow0", toolBarShown ? u"1" : u"0");
+    desk.Set(u"Bar", u"StatusBar0", statusBarShown ? u"1" : u"0");
+    CloseAsTheUserDoes();
+    EXPECT_TRUE(form->Docked());
+    EXPECT_EQ(bar->isVisible(), toolBarShown);
+    EXPECT_EQ(desk.window->Panes().isVisible(), statusBarShown);
+    desk.window.reset();
+  }
+}
+
+TEST_F(Toolbar1Test, TheUsersCloseBringsBarsBackThatTheSettingsShowAgain) {
+  desk.Set(u"Bar", u"StatusBar0", u"0");
+  OpenFloating();
+  ASSERT_TRUE(desk.window->Panes().isHidden());
+  desk.Set(u"Bar", u"StatusBar0", u"");
+  CloseAsTheUserDoes();
+  EXPECT_TRUE(desk.window->Panes().isVisible());
+}
+
 TEST_F(Toolbar1Test, HidingTheBarHidesItsWindowAndShowingBringsItBack) {
   OpenFloating();
   desk.Run("MenV", 0);
@@ -194,7 +220,7 @@ TEST_F(Toolbar1Test, TheWindowIsAsLargeAsTheBar) {
   for (QAction* action : bar->actions()) EXPECT_TRUE(bar->widgetForAction(action)->isVisible());
   QIcon::setThemeSearchPaths({QStringLiteral("/usr/share/icons")});
   QIcon::setThemeName(QStringLiteral("Tango"));
-  bar->AddIcons();
+  bar->AddIcons(ToolBar::MenuIcons::With);
   QApplication::processEvents();
   const QString scale = QString::number(qRound(bar->devicePixelRatioF() * 100));
   fakes::SavePicture(form->grab().toImage(), QStringLiteral("Toolbar1-") + scale);

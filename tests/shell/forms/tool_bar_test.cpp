@@ -31,7 +31,7 @@ class ToolBarTest : public testing::Test {
   void ShowIcons() {
     QIcon::setThemeSearchPaths({QStringLiteral("/usr/share/icons")});
     QIcon::setThemeName(QStringLiteral("Tango"));
-    bar->AddIcons();
+    bar->AddIcons(ToolBar::MenuIcons::With);
   }
   QAction* Button(std::string_view key) const {
     for (QAction* action : bar->actions()) {
@@ -66,7 +66,7 @@ class ToolBarTest : public testing::Test {
 
 TEST_F(ToolBarTest, EveryButtonHasANameATipAndItsIcon) {
   Open();
-  bar->AddIcons();
+  bar->AddIcons(ToolBar::MenuIcons::With);
   for (const ToolRow& row : ToolRows()) {
     if (row.kind == ToolKind::Separator) continue;
     const QAction* action = Button(row.key);
@@ -300,6 +300,17 @@ TEST_F(ToolBarTest, PicturesOfTheBarAndItsDropDown) {
   QApplication::processEvents();
   fakes::SavePicture(bar->grab().toImage(), QStringLiteral("ToolBar-dark") + scale);
   QApplication::setPalette(light);
+}
+
+TEST_F(ToolBarTest, WithoutMenuIconsTheDropDownsHaveNoneEither) {
+  Open();
+  bar->AddIcons(ToolBar::MenuIcons::Without);
+  EXPECT_FALSE(Button("Tool")->icon().isNull());
+  for (const QAction* action : DropDown("Tool")) EXPECT_TRUE(action->icon().isNull());
+  bar->AddIcons(ToolBar::MenuIcons::With);
+  const QList<QAction*> shown = DropDown("Tool");
+  EXPECT_TRUE(std::any_of(shown.begin(), shown.end(),
+                          [](const QAction* action) { return !action->icon().isNull(); }));
 }
 
 }  // namespace

@@ -92,7 +92,7 @@ TEST(CommandRows, EveryMenuArrayIsThere) {
       {"HTMLEditHINTS", 1},   {"TmpLEdit", 12},    {"DefSlotSave", 1},   {"SaveSlot", 10},
       {"LoadSlot", 10},       {"DefSlotLoad", 1},  {"Slot", 10},         {"mnuCmpl", 1},
       {"MenTool", 4},         {"MenOPg", 3},       {"MenOPgWord", 1},    {"MenOPgPaint", 1},
-      {"Setting", 1},         {"SettingT", 1},     {"MenV", 7},          {"MenV2", 1},
+      {"Setting", 1},         {"SettingT", 1},     {"MenV", 8},          {"MenV2", 1},
       {"MenV3", 2},           {"MenH", 1},         {"MenH2", 4},         {"MenIMES", 8},
       {"MenIMERe", 1},        {"MenIMEsub", 3},    {"Day", 9},           {"WinShow", 1},
       {"mnuCallUserInTo", 1}, {"mnuFreeInd", 1}};

@@ -25,11 +25,15 @@ struct RecordingWindow : SwitchedWindow {
   void DockToolBar(bool dock) override { docked = dock; }
   bool StatusBarVisible() const override { return statusBar; }
   void ShowStatusBar(bool visible) override { statusBar = visible; }
+  bool FolderBarVisible() const override { return folderBar; }
+  void ShowFolderBar(bool visible) override { folderBar = visible; }
+  int FolderBarWidth() const override { return 2400; }
   void ShowGuideLines(bool visible) override { guideLines = visible; }
   bool LineNumbersVisible() const override { return lineNumbers; }
   void ShowLineNumbers(bool visible) override { lineNumbers = visible; }
   void ApplyTopMost() override { ++topMostCalls; }
-  bool toolBar = true, docked = true, statusBar = true, guideLines = false, lineNumbers = true;
+  bool toolBar = true, docked = true, statusBar = true, folderBar = true, guideLines = false,
+       lineNumbers = true;
   int topMostCalls = 0;
 };
 
@@ -94,6 +98,22 @@ TEST_F(Switches, CancelledQuestionChangesNothing) {
   views.ToggleToolBar();
   EXPECT_TRUE(window.toolBar);
   EXPECT_EQ(Kept(u"Bar", u"ToolBarShow0"), u"(unset)");
+}
+
+TEST_F(Switches, TheFolderBarIsRememberedWithItsWidth) {
+  views.ToggleFolderBar();
+  EXPECT_FALSE(window.folderBar);
+  EXPECT_EQ(Kept(u"Bar", u"DirTree"), u"0");
+  EXPECT_EQ(Kept(u"Bar", u"DirectoryTreeWidth"), u"2400");
+}
+
+TEST_F(Switches, TheFolderBarOfThisWindowAloneLeavesTheSettings) {
+  StartAnother();
+  boxes.answers = {MessageAnswer::No};
+  views.ToggleFolderBar();
+  EXPECT_FALSE(window.folderBar);
+  EXPECT_EQ(Kept(u"Bar", u"DirTree"), u"(unset)");
+  EXPECT_EQ(Kept(u"Bar", u"DirectoryTreeWidth"), u"(unset)");
 }
 
 TEST_F(Switches, TopMostGoesBetweenItsTwoModesAndReachesEveryForm) {

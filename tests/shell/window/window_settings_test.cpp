@@ -187,5 +187,30 @@ INSTANTIATE_TEST_SUITE_P(Keys, DamagedNumbers,
                          ::testing::Values(u"FontSize", u"Act", u"TabSpaceCount", u"HTMLfrmLeft", u"ClTimer",
                                            u"SubClass", u"EofMark"));
 
+TEST_F(Settings, AFractionIsRoundedHalfToEven) {
+  for (const auto& [written, size] :
+       {std::pair{u"10.5", 10}, {u"11.5", 12}, {u"11.25", 11}, {u" +14.0 ", 14}}) {
+    Set(u"Setting", u"FontSize", written);
+    EXPECT_EQ(Load().fontSize, size) << ToUtf8(written);
+  }
+  Set(u"Setting", u"ClTimer", u"2.4");
+  EXPECT_EQ(Load().timerPeriod, 101);
+}
+
+TEST_F(Settings, ANumberBeyondItsRangeIsDamage) {
+  for (const char16_t* written : {u"40000", u"99999999999", u"1e400", u"."}) {
+    Set(u"Setting", u"EofMark", written);
+    EXPECT_FALSE(LoadWindowSettings(common, state)) << ToUtf8(written);
+  }
+}
+
+TEST_F(Settings, TheFolderBarStaysBetweenUsableWidths) {
+  EXPECT_EQ(Load().folderBarShow, 1);
+  for (const auto& [written, width] : {std::pair{u"3000", 3000}, {u"0", 900}, {u"99999", 15000}}) {
+    Set(u"Bar", u"DirectoryTreeWidth", written);
+    EXPECT_EQ(Load().directoryTreeWidth, width);
+  }
+}
+
 }  // namespace
 }  // namespace kestri
