@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds everything and runs all tests: release build with the real window under a virtual
-# display, sanitizer build of the logic, and the fuzz targets.
+# display, sanitizer build of the logic, a build of everything with Clang, and the fuzz targets.
 #   ./test.sh            everything
 #   ./test.sh quick      release tests only
 set -euo pipefail
@@ -8,16 +8,35 @@ cd "$(dirname "$0")"
 source tools/packages.sh
 install_packages
 source tools/build.sh
+
+section "format"
+check_format
+
 build_release_with_tests
 
+passed=0
+
+run_tests() {
+  local total
+  ctest --test-dir "$1" --output-on-failure -j "$(nproc)" | tee "$1/test.log"
+  total=$(sed -n 's/^100% tests passed, 0 tests failed out of \([0-9]*\)$/\1/p' "$1/test.log")
+  [ "${total:-0}" -gt 0 ]
+  passed=$((passed + total))
+}
+
 section "release tests"
-ctest --test-dir build/release --output-on-failure -j "$(nproc)"
-[ "${1:-}" = quick ] && exit 0
+run_tests build/release
+if [ "${1:-}" != quick ]; then
+  section "logic under the sanitizers"
+  build_sanitized
+  run_tests build/asan
 
-section "logic under the sanitizers"
-build_sanitized
-ctest --test-dir build/asan --output-on-failure -j "$(nproc)"
+  section "Clang"
+  build_with_clang
 
-section "fuzz targets, ${KESTRI_FUZZ_SECONDS:=60} s each"
-build_fuzzers
-run_fuzzers "$KESTRI_FUZZ_SECONDS"
+  section "fuzz targets, ${KESTRI_FUZZ_SECONDS:=60} s each"
+  build_fuzzers
+  run_fuzzers "$KESTRI_FUZZ_SECONDS"
+fi
+
+echo "$passed passed, 0 failed"

@@ -2,7 +2,7 @@
 
 KESTRI_PACKAGES=(
   # build
-  g++ clang-14 libclang-rt-14-dev cmake ninja-build ccache pkg-config
+  g++ clang-14 libclang-rt-14-dev clang-format-14 cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-svg-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   libxcb1-dev libxcb-damage0-dev libxcb-xtest0-dev libxcb-keysyms1-dev
