@@ -12,6 +12,14 @@ trap 'kill "$display" 2>/dev/null || true; rm -rf "$work"' EXIT
 # A copy that starts without the warning and the splash.
 cp -a "$stage" "$work/Kestrile"
 printf '%s\r\n' '[RunArt]' 'RunArt=1' '[Setting]' 'TopWinShow=0' 'AppECount=99' >"$work/Kestrile/Kestri.ini"
+# Dictionaries as long as they may be.
+table() { # section, word
+  printf '[%s]\r\n' "$1"
+  for row in $(seq -f %03g 999); do printf '%s=%s%s\r\n' "$row" "$2" "$row"; done
+}
+(table NAME TAG; table EXPLAIN words; table DEFTAG 'TAG title=') >"$work/Kestrile/DataFiles/SelectTAG.lib"
+(table PRO attribute; table EXPLAIN words) >"$work/Kestrile/DataFiles/Option.lib"
+table PARAM value >"$work/Kestrile/DataFiles/Param.lib"
 program=$work/Kestrile/Kestri
 tool=$tools/figures
 

@@ -238,7 +238,6 @@ void HTMLfrm::FinishLoading() {
   services_.progress = nullptr;
   loaded_ = true;
   setWindowIcon(QIcon::fromTheme(iconName_));
-  FillFolderBar();
   InstallJapaneseLabels();
   CountStart(services_.common);
   services_.instances.Announce([this] { return caption_; }, [this] { BringToFront(); });

@@ -71,6 +71,8 @@ class HTMLfrm : public QMainWindow,
 
   // Everything that can wait until the window stands: icons, the start count, the instance log.
   void FinishLoading();
+  // The folder bar comes into its room once the document of the start stands: it begins in that one's folder.
+  void FillFolderBar();
   // While the window loads behind a splash nothing in it can be used.
   void SetLoading(bool loading);
 
@@ -103,9 +105,7 @@ class HTMLfrm : public QMainWindow,
   void AddToolIcons();
   void RestoreBars();
   void BarSet();
-  // The folder bar is made when it is shown for the first time, and filled once the window stands.
   void MakeFolderBar();
-  void FillFolderBar();
   void PlaceWindow();
   void InstallSubclass(int mode);
   void StartFirstDocument();
@@ -223,6 +223,7 @@ class HTMLfrm : public QMainWindow,
   Toolbar1* floatingBar_ = nullptr;
   StatusPanes* panes_ = nullptr;
   QSplitter* frameReSise_ = nullptr;  // between folder bar and text
+  QWidget* folderBarRoom_ = nullptr;
   DirFrame* dirFrame_ = nullptr;
   QTimer timeP_;
   std::u16string caption_;

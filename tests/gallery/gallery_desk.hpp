@@ -20,6 +20,7 @@ class GalleryDesk : public fakes::EditorDesk {
     Set(u"Setting", u"NawPath", folder.Text());
     Open();
     window->FinishLoading();
+    window->FillFolderBar();
     window->resize(kWindowSize);
     window->move(0, 0);
     for (const char16_t* name : {u"album.htm", u"日記.htm", u"散歩.htm"}) OpenCopy(name);

@@ -86,6 +86,7 @@ void EditorProcess::EndLoading() {
 }
 
 void EditorProcess::ShowFileList(StartList list, StartListCheck check) {
+  window_->FillFolderBar();
   window_->ShowFileList({.view = list == StartList::NewDocument ? FileListView::New : FileListView::Recent,
                          .startBoxGrey = check == StartListCheck::Greyed});
 }
@@ -93,6 +94,9 @@ void EditorProcess::ShowFileList(StartList list, StartListCheck check) {
 void EditorProcess::ActivateEditor() {
   window_->activateWindow();
   window_->TextView().setFocus();
+  // Behind the first painting of the document.
+  constexpr int kMilliseconds = 50;
+  QTimer::singleShot(kMilliseconds, window_.get(), [this] { window_->FillFolderBar(); });
 }
 
 }  // namespace kestri

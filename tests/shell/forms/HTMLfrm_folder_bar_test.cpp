@@ -22,7 +22,7 @@ class HTMLfrmFolderBarTest : public testing::Test {
 
   void Open() {
     desk.Open();
-    desk.window->FinishLoading();
+    desk.window->FillFolderBar();
     QApplication::processEvents();
   }
   QSplitter& FrameReSise() const {
@@ -39,10 +39,11 @@ class HTMLfrmFolderBarTest : public testing::Test {
 
 TEST_F(HTMLfrmFolderBarTest, ShowsTheWorkingFolderOnceTheWindowStands) {
   desk.Open();
+  EXPECT_EQ(FrameReSise().sizes().front(), 200);
+  EXPECT_EQ(Bar(), nullptr) << "nothing of it delays the first painting";
+  desk.window->FillFolderBar();
   ASSERT_NE(Bar(), nullptr);
   EXPECT_TRUE(Bar()->isVisible());
-  EXPECT_FALSE(Bar()->Started());
-  desk.window->FinishLoading();
   EXPECT_EQ(Bar()->Bar().directoryTree1.Path(), desk.folder.Text(u"pages"));
   EXPECT_EQ(Names(), (std::vector<std::u16string>{u"index.htm", u"notes.txt"}));
   EXPECT_TRUE(desk.window->TextView().hasFocus());
