@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QStyleOption>
 
 namespace kestri {
 namespace {
@@ -47,6 +48,15 @@ class CutArrow : public QIconEngine {
 
 }  // namespace
 
+QColor EdgeColor(const QPalette& palette) {
+  constexpr int kOutOf = 10;
+  constexpr int kInk = 4;
+  const QColor ink = palette.color(QPalette::Text);
+  const QColor paper = palette.color(QPalette::Base);
+  const auto blend = [](int over, int under) { return (over * kInk + under * (kOutOf - kInk)) / kOutOf; };
+  return {blend(ink.red(), paper.red()), blend(ink.green(), paper.green()), blend(ink.blue(), paper.blue())};
+}
+
 EditorStyle::EditorStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 QIcon EditorStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
@@ -54,6 +64,21 @@ QIcon EditorStyle::standardIcon(StandardPixmap which, const QStyleOption* option
   if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new CutArrow(Qt::Horizontal));
   if (which == SP_ToolBarVerticalExtensionButton) return QIcon(new CutArrow(Qt::Vertical));
   return QProxyStyle::standardIcon(which, option, widget);
+}
+
+int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  const int size = QProxyStyle::pixelMetric(metric, option, widget);
+  return metric == PM_MenuPanelWidth ? std::max(size, 1) : size;
+}
+
+void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (element != PE_FrameMenu) return;
+  painter->save();
+  painter->setPen(EdgeColor(option->palette));
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  painter->restore();
 }
 
 }  // namespace kestri

@@ -1,5 +1,6 @@
 // Fusion with arrows of our own on cut menu and tool bars. The stock ones are picture files, whose reading
 // loads every picture plug-in of the toolkit before the first painting; these follow the palette besides.
+// Menus have an edge that can be seen on the text area of a dark desktop too.
 #pragma once
 
 #include <QProxyStyle>
@@ -11,6 +12,13 @@ class EditorStyle : public QProxyStyle {
   EditorStyle();
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
                      const QWidget* widget = nullptr) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                  const QWidget* widget = nullptr) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
 };
+
+// Of a window that pops up over others of the same colours.
+QColor EdgeColor(const QPalette& palette);
 
 }  // namespace kestri

@@ -11,6 +11,7 @@
 #include "tags/forms/candidate_delegate.hpp"
 #include "tags/forms/candidate_model.hpp"
 #include "tags/forms/tip_line.hpp"
+#include "ui/editor_style.hpp"
 
 namespace kestri {
 namespace {
@@ -49,6 +50,9 @@ void InToTAGFrm::Build() {
   setFont(uiFont);
   body_ = new QFrame(this);
   body_->setFrameStyle(QFrame::Box | QFrame::Plain);
+  QPalette edged = body_->palette();
+  edged.setColor(QPalette::Dark, EdgeColor(edged));
+  body_->setPalette(edged);
   body_->setForegroundRole(QPalette::Dark);
   body_->setAutoFillBackground(true);
   BuildList();

@@ -99,6 +99,14 @@ TEST_F(RoundTrip, OneLineOfTenMegabytesSurvives) {
   EXPECT_TRUE(OpenAndSave(bytes) == bytes);
 }
 
+TEST_F(RoundTrip, AHundredMegabytesOfShortLinesSurvive) {
+  const std::string line = "<P>" + Encoded(u"駅から川沿いの道を歩きました。") + "</P>\r\n";
+  std::string bytes;
+  bytes.reserve(100'000'000 + line.size());
+  while (bytes.size() < 100'000'000) bytes += line;
+  EXPECT_TRUE(OpenAndSave(bytes) == bytes);
+}
+
 TEST_F(RoundTrip, UntouchedFileIsNotWrittenAtAll) {
   const std::string bytes("a\0b\x95", 4);
   const auto path = MakeFile("a.txt", bytes);

@@ -48,10 +48,12 @@ void TakeMenus(Gallery& gallery, QMainWindow& window) {
 void TakeToolMenus(Gallery& gallery, QMainWindow& window) {
   int number = 0;
   for (QToolButton* button : window.findChildren<QToolButton*>()) {
-    if (button->menu() == nullptr || !button->isVisible()) continue;
+    QMenu* menu = button->defaultAction() == nullptr ? nullptr : button->defaultAction()->menu();
+    if (menu == nullptr || !button->isVisible()) continue;
     const QPoint below = button->mapToGlobal(button->rect().bottomLeft());
-    TakeMenu(gallery, Numbered("HTMLfrm-tool", ++number), window, *button->menu(), below);
+    TakeMenu(gallery, Numbered("HTMLfrm-tool", ++number), window, *menu, below);
   }
+  if (number == 0) gallery.Tell(QStringLiteral("HTMLfrm-tool"), {QStringLiteral("no drop-down menus")});
 }
 
 void TakePopup(Gallery& gallery, GalleryDesk& desk) {
@@ -66,7 +68,7 @@ void TakePopup(Gallery& gallery, GalleryDesk& desk) {
 }
 
 void TakeHint(Gallery& gallery, GalleryDesk& desk) {
-  desk.PutCaretBehind(u"<a");
+  desk.PutCaretBehind(u"<A h");
   desk.Press(u"{Left}");
   gallery.Take(QStringLiteral("LabelText"), *desk.window);
   desk.Press(u"{Esc}");
@@ -77,7 +79,6 @@ void TakeFolderBar(Gallery& gallery, GalleryDesk& desk) {
   bar.Bar().dirTreeFile.SetListIndex(0);
   desk.window->resize(760, 520);
   gallery.Take(QStringLiteral("DirFrame"), *desk.window);
-  gallery.Tell(QStringLiteral("DirFrame"), FieldsOutOfReach(bar));
   const QPoint at = bar.mapToGlobal(QPoint(60, 40));
   TakeMenu(gallery, QStringLiteral("DirFrame-tree"), *desk.window, *bar.DirTreeMenu(), at,
            Mnemonics::AsGiven);
