@@ -66,6 +66,29 @@ QIcon EditorStyle::standardIcon(StandardPixmap which, const QStyleOption* option
   return QProxyStyle::standardIcon(which, option, widget);
 }
 
+// A grey shade of the icon that lets what is under it through.
+QPixmap EditorStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                         const QStyleOption* option) const {
+  if (mode != QIcon::Disabled) return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+  QImage shade = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < shade.height(); ++y) {
+    auto* row = reinterpret_cast<QRgb*>(shade.scanLine(y));
+    for (int x = 0; x < shade.width(); ++x) {
+      const int grey = qGray(row[x]);
+      row[x] = qRgba(grey, grey, grey, qAlpha(row[x]) * 2 / 5);
+    }
+  }
+  QPixmap made = QPixmap::fromImage(shade);
+  made.setDevicePixelRatio(pixmap.devicePixelRatio());
+  return made;
+}
+
+// The light shadow of disabled words makes small kana hard to read.
+int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const {
+  return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   const int size = QProxyStyle::pixelMetric(metric, option, widget);
   return metric == PM_MenuPanelWidth ? std::max(size, 1) : size;

@@ -19,6 +19,25 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 
+// Nothing is unreadable for the superuser.
+class WithoutPrivileges {
+ public:
+  WithoutPrivileges() {
+    constexpr uid_t kNobody = 65534;
+    if (user_ == 0) Become(kNobody);
+  }
+  ~WithoutPrivileges() {
+    if (user_ == 0) Become(0);
+  }
+  WithoutPrivileges(const WithoutPrivileges&) = delete;
+  WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
+
+ private:
+  static void Become(uid_t user) { ASSERT_EQ(::seteuid(user), 0); }
+
+  uid_t user_ = ::geteuid();
+};
+
 class FolderReading : public ::testing::Test {
  protected:
   void MakeFolder(const std::string& name) { fs::create_directories(folder.Path(name)); }
@@ -94,13 +113,27 @@ TEST_F(FolderReading, NamesThatAreNoCharactersLeadToTheirFolders) {
 }
 
 TEST_F(FolderReading, UnreadableFolderIsEmpty) {
-  if (::geteuid() == 0) GTEST_SKIP() << "nothing is unreadable for the superuser";
   MakeFolder("closed/below");
+  fs::permissions(folder.Path(""), fs::perms(0755));
   fs::permissions(folder.Path("closed"), fs::perms::none);
+  const WithoutPrivileges ordinary;
   tree.SetPath(folder.Text(u"closed"));
   EXPECT_THAT(NamesBelow(folder.Text(u"closed")), IsEmpty());
   EXPECT_THAT(files.FileNames(folder.Text(u"closed")), IsEmpty());
-  fs::permissions(folder.Path("closed"), fs::perms::owner_all);
+}
+
+TEST_F(FolderReading, AFolderThatOpensAgainIsReadAnew) {
+  MakeFolder("closed/below");
+  fs::permissions(folder.Path(""), fs::perms(0755));
+  fs::permissions(folder.Path("closed"), fs::perms::none);
+  {
+    const WithoutPrivileges ordinary;
+    tree.SetPath(folder.Text(u"closed"));
+  }
+  fs::permissions(folder.Path("closed"), fs::perms(0755));
+  tree.DeletePath(folder.Text(u"closed"));
+  tree.CreateTree();
+  EXPECT_THAT(NamesBelow(folder.Text(u"closed")), ElementsAre(u"below"));
 }
 
 TEST_F(FolderReading, TenThousandFoldersAndFilesAreListedInOrder) {
