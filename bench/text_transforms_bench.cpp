@@ -44,6 +44,17 @@ ON_BOTH(Wide, [](TextTransforms& transforms) { transforms.HighEdit(6); });
 ON_BOTH(Narrow, [](TextTransforms& transforms) { transforms.HighEdit(7); });
 ON_BOTH(Katakana, [](TextTransforms& transforms) { transforms.HighEdit(8); });
 ON_BOTH(Hiragana, [](TextTransforms& transforms) { transforms.HighEdit(9); });
+ON_BOTH(FreeIndent, [](TextTransforms& transforms) { transforms.FreeIndent({}); });
+ON_BOTH(FreeUnindent, [](TextTransforms& transforms) {
+  FreeIndentChoice less;
+  less.direction = IndentDirection::Less;
+  transforms.FreeIndent(less);
+});
+ON_BOTH(LineCode, [](TextTransforms& transforms) { transforms.LineCode(2); });
+ON_BOTH(SpecialCharacter, [](TextTransforms& transforms) { transforms.ToM(0); });
+ON_BOTH(ColorName, [](TextTransforms& transforms) { transforms.Color(0); });
+ON_BOTH(FontName, [](TextTransforms& transforms) { transforms.nFont(2); });
+ON_BOTH(DateAndTime, [](TextTransforms& transforms) { transforms.Day(6); });
 ON_BOTH(Brackets, [](TextTransforms& transforms) { transforms.KakkoMenu(11); });
 
 }  // namespace
