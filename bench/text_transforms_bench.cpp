@@ -32,9 +32,11 @@ void OnSelection(benchmark::State& state, std::u16string_view line, Command comm
   }
 }
 
-#define ON_BOTH(name, ...)                                                                 \
-  BENCHMARK_CAPTURE(OnSelection, name, kPage, __VA_ARGS__)->Unit(benchmark::kMillisecond); \
-  BENCHMARK_CAPTURE(OnSelection, name##_ShortLines, kShortLines, __VA_ARGS__)->Unit(benchmark::kMillisecond)
+#define ON_BOTH(name, ...)                                                                                 \
+  BENCHMARK_CAPTURE(OnSelection, name, kPage, __VA_ARGS__)->Unit(benchmark::kMillisecond)->Iterations(10); \
+  BENCHMARK_CAPTURE(OnSelection, name##_ShortLines, kShortLines, __VA_ARGS__)                              \
+      ->Unit(benchmark::kMillisecond)                                                                      \
+      ->Iterations(10)
 
 ON_BOTH(Indent, [](TextTransforms& transforms) { transforms.HighEdit(0); });
 ON_BOTH(Unindent, [](TextTransforms& transforms) { transforms.HighEdit(1); });

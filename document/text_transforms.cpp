@@ -160,8 +160,8 @@ void TextTransforms::FreeIndent(const FreeIndentChoice& choice) {
   const Position start = control.SelStart();
   const std::u16string block = control.SelText();
   const bool more = choice.direction == IndentDirection::More;
-  if (more && !HasRoomFor(unit.size())) return TellNoRoom();
-  std::u16string indented = more ? IndentBlock(block, unit) : UnindentBlock(block, unit);
+  if (more && !HasRoomFor(text_.ExpandTabs(unit).size())) return TellNoRoom();
+  std::u16string indented = more ? IndentBlock(block, text_.ExpandTabs(unit)) : UnindentBlock(block, unit);
   // A tab that was put in may stand in the text as the blanks of its level.
   if (indented == block) indented = UnindentBlock(block, text_.ExpandTabs(unit));
   if (indented == block) return;
