@@ -1,5 +1,7 @@
 #include "tags/tag_hint.hpp"
 
+#include <utility>
+
 #include "tags/dictionaries.hpp"
 #include "tags/hint_text.hpp"
 #include "tags/tag_locator.hpp"
@@ -16,22 +18,18 @@ bool HasNoHint(std::u16string_view name) {
 
 }  // namespace
 
-std::optional<TagHint::Seen> TagHint::Look() {
-  const std::optional<PixelRect> pixel = around_.place.GetCaretPixel();
-  if (!pixel) return std::nullopt;
-  return Seen{around_.control.SelStart(), around_.control.Length(), *pixel};
-}
-
 void TagHint::seTagHide() {
   TipCommentsReset();
   tag_.clear();
 }
 
 void TagHint::seTagHint() {
-  const std::optional<Seen> now = Look();
-  if (now && now == seen_) return;
-  seen_ = now;
-  if (!now) return TipCommentsReset();
+  const Seen now = Look();
+  const bool moved = std::exchange(seen_, now) != now;
+  moved ? FollowCaret() : FollowScrolling();
+}
+
+void TagHint::FollowCaret() {
   std::u16string inside;
   if (!FindCaretSpan(around_.control, kLookOnly, inside, u"<", u">", Compare::Binary)) {
     hintless_.clear();
@@ -39,6 +37,11 @@ void TagHint::seTagHint() {
   } else if (tag_ != kDismissed) {
     seTagHintPriSet();
   }
+}
+
+void TagHint::FollowScrolling() {
+  const bool stands = !tag_.empty() && tag_ != kDismissed;
+  if (stands && around_.place.GetCaretPixel() != placedAt_) PlaceBox();
 }
 
 bool TagHint::seTagHintPriSet() {
@@ -86,9 +89,9 @@ void TagHint::TipCommentsReset() {
 }
 
 void TagHint::PlaceBox() {
-  const std::optional<PixelRect> caret = around_.place.GetCaretPixel();
-  if (!caret) return TipCommentsReset();
-  const CaretSurroundings around{*caret, around_.box.Room(), {}, around_.place.FontPoints()};
+  placedAt_ = around_.place.GetCaretPixel();
+  if (!placedAt_) return TipCommentsReset();
+  const CaretSurroundings around{*placedAt_, around_.box.Room(), {}, around_.place.FontPoints()};
   const int twips = around_.common.PortSet().window.TwipsPerPixel();
   around_.box.ShowAt(PlaceAtCaret(around, {around_.box.Size(), 0, 0, twips}), Animation::Off);
 }

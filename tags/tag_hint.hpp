@@ -50,20 +50,22 @@ class TagHint final : public TagHints {
 
  private:
   struct Seen {
-    Position caret;
-    Position length;
-    PixelRect pixel;
+    Position caret = -1;
+    Position length = -1;
     bool operator==(const Seen&) const = default;
   };
 
-  std::optional<Seen> Look();
+  Seen Look() const { return {around_.control.SelStart(), around_.control.Length()}; }
+  void FollowCaret();
+  void FollowScrolling();
   void ShowHintOf(const std::u16string& name);
   void PlaceBox();
 
   Surroundings around_;
   std::u16string tag_;
-  std::u16string hintless_;   // a name that the dictionary tells nothing of, while the caret is in its tag
-  std::optional<Seen> seen_;  // at the last check
+  std::u16string hintless_;  // a name that the dictionary tells nothing of, while the caret is in its tag
+  Seen seen_;                // at the last check
+  std::optional<PixelRect> placedAt_;  // the caret that the box stands at
 };
 
 }  // namespace kestri
