@@ -74,6 +74,7 @@ void TagHint::ShowHintOf(const std::u16string& name) {
 }
 
 void TagHint::DismissHint() {
+  if (!HintVisible()) return;
   TipCommentsReset();
   tag_ = kDismissed;
 }

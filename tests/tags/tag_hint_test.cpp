@@ -120,6 +120,13 @@ TEST_F(TagHintTest, EscKeepsItAwayUntilTheTagIsLeft) {
   EXPECT_TRUE(box.visible);
 }
 
+TEST_F(TagHintTest, EscWithoutAHintKeepsNoneAway) {
+  Put(u"x‸<a>");
+  hint.DismissHint();
+  Put(u"x<a‸>");
+  EXPECT_TRUE(box.visible);
+}
+
 TEST_F(TagHintTest, AskedForItComesAfterADismissalToo) {
   Put(u"<a‸>");
   hint.DismissHint();
