@@ -273,10 +273,10 @@ void EditView::TakeAttribute(const QInputMethodEvent::Attribute& attribute) {
       preedit_.formats.append({attribute.start, attribute.length, format});
     }
   } else if (attribute.type == QInputMethodEvent::Selection && !Composing()) {
-    const auto [first, last] = SurroundingRange();
-    const std::int64_t begin = std::int64_t{first} + attribute.start;
-    const auto within = [&](std::int64_t position) {
-      return static_cast<Position>(std::clamp<std::int64_t>(position, first, last));
+    const QPair<Position, Position> shown = SurroundingRange();
+    const std::int64_t begin = std::int64_t{shown.first} + attribute.start;
+    const auto within = [&shown](std::int64_t position) {
+      return static_cast<Position>(std::clamp<std::int64_t>(position, shown.first, shown.second));
     };
     text_.EM_SETSEL(within(begin), within(begin + attribute.length));
   }
