@@ -88,6 +88,7 @@ void EditView::RebuildStyle() {
   layouts_.SetStyle(style);
   gutter_->SetStyle(style);
   strip_->SetStyle(style);
+  caretWidth_ = std::max(kCaretWidth, this->style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));
   styleBuilt_ = true;
   seenWidth_ = 0;
   RebuildMarks();
@@ -236,9 +237,8 @@ QRect EditView::CaretRect() {
   if (!styleBuilt_) RebuildStyle();
   const std::int32_t line = control_.LineOf(control_.Caret());
   const double x = Composing() ? layouts_.Line(line).XInInset(preeditCursor_) : XOf(control_.Caret());
-  const int width = std::max(kCaretWidth, style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));
-  const int left = NearPixels(std::round(TextLeft() + x)) - width / 2;
-  return QRect(left, RowTop(line), width, Style().rowHeight);
+  const int left = NearPixels(std::round(TextLeft() + x)) - caretWidth_ / 2;
+  return QRect(left, RowTop(line), caretWidth_, Style().rowHeight);
 }
 
 QPoint EditView::GetCaretPixel() {

@@ -147,6 +147,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
     bool startOver = false;  // another text: both scroll bars begin at 0
     std::int32_t firstDirty = INT32_MAX;
     std::int32_t lastDirty = -1;
+    Position fromColumn = 0;     // of the only dirty line: what stands left of it is as it was
     std::int32_t shiftFrom = 0;  // lines from here on moved down by shiftBy
     std::int32_t shiftBy = 0;
     std::int32_t anchorBy = 0;  // lines put in above what shows
@@ -184,12 +185,14 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool Frozen() const { return hidden_ || !redraw_; }
   void Thaw();
   void NoteNewText();
+  void NoteDirtyRows(const TextChange& change);
   void NoteLinesShifted(const TextChange& change);
   void StartOver();
   void FollowLinesAbove(std::int32_t by);
   void UpdateScrollRanges();
   void NoteWidth(double width);
-  void UpdateRows(std::int32_t firstLine, std::int32_t lastLine);
+  void UpdateRows(std::int32_t firstLine, std::int32_t lastLine, int left = 0);
+  int LeftOfChange(const Pending& pending);
   void ShiftRows(std::int32_t fromLine, std::int32_t by);
   void UpdateChangedRows(const Pending& pending);
   void UpdateSelectionRows(bool textChanged);
@@ -262,6 +265,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   ShownSelection shown_;
   QRect shownCaret_;
   QPoint caretMemo_{-10000, -10000};
+  int caretWidth_ = 2;
   double seenWidth_ = 0;  // of the widest line that was shown
   bool anchoring_ = false;
 

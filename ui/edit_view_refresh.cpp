@@ -54,13 +54,20 @@ void EditView::ResetCaretMemo() {
 
 void EditView::TextReplaced(const TextChange& change) {
   teller_->TextReplaced(change);
-  layouts_.TextReplaced(change);
   pending_.text = true;
   if (change.at == 0 && change.inserted == control_.Length()) NoteNewText();
   if (change.linesRemoved != 0 || change.linesInserted != 0) NoteLinesShifted(change);
+  NoteDirtyRows(change);
+  layouts_.TextReplaced(change);
+  Schedule();
+}
+
+void EditView::NoteDirtyRows(const TextChange& change) {
+  const bool only = pending_.lastDirty < 0 && change.linesRemoved == 0 && change.linesInserted == 0;
+  const bool local = only && layouts_.IsPlain(change.firstLine);
+  pending_.fromColumn = local ? change.at - control_.LineStart(change.firstLine) : 0;
   pending_.firstDirty = std::min(pending_.firstDirty, change.firstLine);
   pending_.lastDirty = std::max(pending_.lastDirty, change.firstLine + change.linesInserted);
-  Schedule();
 }
 
 // Everything was replaced: the view starts over at the caret.
@@ -148,14 +155,23 @@ void EditView::FollowLinesAbove(std::int32_t by) {
 void EditView::UpdateChangedRows(const Pending& pending) {
   if (pending.all) return viewport()->update();
   if (pending.shiftBy != 0) ShiftRows(pending.shiftFrom, pending.shiftBy);
-  UpdateRows(pending.firstDirty, pending.lastDirty);
+  UpdateRows(pending.firstDirty, pending.lastDirty, LeftOfChange(pending));
 }
 
-void EditView::UpdateRows(std::int32_t firstLine, std::int32_t lastLine) {
+// Where the only changed row begins to look different, with room for glyphs that lean over their cell.
+int EditView::LeftOfChange(const Pending& pending) {
+  if (pending.fromColumn == 0 || !LineShows(pending.firstDirty)) return 0;
+  LineLayout& line = layouts_.Line(pending.firstDirty);
+  const double x = line.XOf(pending.fromColumn);
+  return line.Plain() ? std::max(0, NearPixels(std::floor(TextLeft() + x - 2 * Style().cell))) : 0;
+}
+
+// Pixels left of the given place stay as they are.
+void EditView::UpdateRows(std::int32_t firstLine, std::int32_t lastLine, int left) {
   const std::int32_t first = std::max(firstLine, FirstVisibleLine());
   const std::int32_t last = std::min(lastLine, FirstVisibleLine() + VisibleRows());
   if (first > last) return;
-  viewport()->update(0, RowTop(first), viewport()->width(), (last - first + 1) * Style().rowHeight);
+  viewport()->update(left, RowTop(first), viewport()->width() - left, (last - first + 1) * Style().rowHeight);
 }
 
 // Rows below the change are moved on the screen instead of being painted again.

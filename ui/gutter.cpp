@@ -43,8 +43,7 @@ void Gutter::SetStyle(const TextStyle& style) {
 }
 
 int Gutter::WidthFor(std::int32_t lineCount) const {
-  const double digit = QFontMetricsF(style_.font).horizontalAdvance(QLatin1Char('0'));
-  return static_cast<int>(std::ceil(digit * LineNumberDigits(lineCount))) + kEdge + kMarkSpace;
+  return static_cast<int>(std::ceil(style_.digit * LineNumberDigits(lineCount))) + kEdge + kMarkSpace;
 }
 
 void Gutter::RepaintRow(std::int32_t line) {

@@ -8,7 +8,6 @@
 namespace kestri {
 namespace {
 
-constexpr double kUnlimitedWidth = 1 << 24;
 constexpr int kBoundarySteps = 32;
 
 bool ContinuesCharacter(char16_t unit) {
@@ -23,35 +22,6 @@ int Cells(char16_t unit) {
   if (unit == 0x200D || unit == 0x3099 || unit == 0x309A) return 0;
   if ((unit >= 0xFE00 && unit <= 0xFE0F) || (unit >= 0xDC00 && unit <= 0xDFFF)) return 0;
   return 2;
-}
-
-bool WritesRightToLeft(QStringView text) {
-  return std::any_of(text.begin(), text.end(), [](QChar c) {
-    return c.unicode() >= 0x590 && (c.direction() == QChar::DirR || c.direction() == QChar::DirAL);
-  });
-}
-
-QTextOption LineOption(const TextStyle& style) {
-  QTextOption option;
-  option.setWrapMode(QTextOption::NoWrap);
-  option.setTextDirection(Qt::LeftToRight);
-  option.setTabStopDistance(style.tabWidth);
-  option.setFlags(QTextOption::IncludeTrailingSpaces);
-  return option;
-}
-
-// The caret place nearest to x in a line that runs left to right. QTextLine::xToCursor misses the place
-// behind a character of several units that is shown as one.
-int NearestPlace(const QTextLayout& layout, double x) {
-  const QTextLine line = layout.lineAt(0);
-  int left = 0;
-  for (int right = line.textLength(); left < right;) {
-    const int middle = (left + right + 1) / 2;
-    line.cursorToX(middle) <= x ? left = middle : right = middle - 1;
-  }
-  if (!layout.isValidCursorPosition(left)) left = layout.previousCursorPosition(left);
-  const int next = layout.nextCursorPosition(left);
-  return x - line.cursorToX(left) <= line.cursorToX(next) - x ? left : next;
 }
 
 }  // namespace
@@ -238,19 +208,8 @@ void LineLayout::LayOut(Segment& segment, std::size_t index) {
     formats = inset_.formats;
     for (auto& range : formats) range.start += at;
   }
-  segment.mixedDirections = WritesRightToLeft(text);
-  segment.layout = std::make_unique<QTextLayout>(text, style_.font);
-  segment.layout->setTextOption(LineOption(style_));
-  segment.layout->setCacheEnabled(true);
-  segment.layout->setFormats(formats);
-  segment.layout->beginLayout();
-  QTextLine line = segment.layout->createLine();
-  if (line.isValid()) {
-    line.setLineWidth(kUnlimitedWidth);
-    line.setPosition(QPointF(0, style_.baseline - line.ascent()));
-  }
-  segment.layout->endLayout();
-  const double width = line.isValid() ? line.cursorToX(static_cast<int>(text.size())) : 0;
+  segment.layout = LayOutText(text, formats, style_);
+  const double width = segment.layout->Width();
   if (std::abs(width - segment.width) > 0.01) {
     segment.width = width;
     sumsStale_ = true;
@@ -260,32 +219,23 @@ void LineLayout::LayOut(Segment& segment, std::size_t index) {
 
 double LineLayout::XOf(Position column) {
   const std::size_t index = SegmentOfColumn(column);
-  const QTextLine line = LaidOut(index).layout->lineAt(0);
-  const double begin = XBegin(index);
-  if (!line.isValid()) return begin;
-  return begin + line.cursorToX(DisplayOffset(index, column - ColumnBegin(index)));
+  const LaidOutText& layout = *LaidOut(index).layout;
+  return XBegin(index) + layout.XOf(DisplayOffset(index, column - ColumnBegin(index)));
 }
 
 double LineLayout::XInInset(int offset) {
   Refresh();
   if (inset_.text.isEmpty()) return XOf(insetColumn_);
-  const QTextLine line = LaidOut(insetSegment_).layout->lineAt(0);
-  const int place = insetColumn_ - ColumnBegin(insetSegment_) + offset;
-  return XBegin(insetSegment_) + (line.isValid() ? line.cursorToX(place) : 0);
+  const LaidOutText& layout = *LaidOut(insetSegment_).layout;
+  return XBegin(insetSegment_) + layout.XOf(insetColumn_ - ColumnBegin(insetSegment_) + offset);
 }
 
 Position LineLayout::ColumnAt(double x) {
   std::size_t index = SegmentOfX(x);
   LaidOut(index);
   while (index + 1 < segments_.size() && x >= XBegin(index + 1)) LaidOut(++index);
-  const QTextLayout& layout = *segments_[index].layout;
-  const QTextLine line = layout.lineAt(0);
-  const Position begin = ColumnBegin(index);
-  if (!line.isValid()) return begin;
-  const double inSegment = x - XBegin(index);
-  int place = segments_[index].mixedDirections ? line.xToCursor(inSegment) : NearestPlace(layout, inSegment);
-  if (!layout.isValidCursorPosition(place)) place = layout.previousCursorPosition(place);
-  return begin + std::clamp(TextOffset(index, place), 0, segments_[index].length);
+  const int place = segments_[index].layout->OffsetAt(x - XBegin(index));
+  return ColumnBegin(index) + std::clamp(TextOffset(index, place), 0, segments_[index].length);
 }
 
 double LineLayout::Width() {
@@ -299,22 +249,9 @@ std::size_t LineLayout::LaidOutCount() const {
 }
 
 std::vector<std::pair<double, double>> LineLayout::SegmentSpans(std::size_t index, int begin, int end) {
-  std::vector<std::pair<double, double>> spans;
-  const Segment& segment = LaidOut(index);
-  const QTextLine line = segment.layout->lineAt(0);
-  if (begin >= end || !line.isValid()) return spans;
+  auto spans = LaidOut(index).layout->Spans(begin, end);
   const double x = XBegin(index);
-  if (!segment.mixedDirections) {
-    spans.emplace_back(x + line.cursorToX(begin), x + line.cursorToX(end));
-    return spans;
-  }
-  for (int at = begin; at < end;) {
-    const int next = std::max(at + 1, segment.layout->nextCursorPosition(at));
-    const double from = line.cursorToX(at, QTextLine::Leading);
-    const double to = line.cursorToX(at, QTextLine::Trailing);
-    spans.emplace_back(x + std::min(from, to), x + std::max(from, to));
-    at = next;
-  }
+  for (auto& span : spans) span = {x + span.first, x + span.second};
   return spans;
 }
 
@@ -344,32 +281,31 @@ void LineLayout::DrawSegment(QPainter& painter, const LinePaint& paint, std::siz
   const Position begin = ColumnBegin(index);
   const Position from = std::clamp(paint.selectionBegin - begin, 0, segment.length);
   const Position to = std::clamp(paint.selectionEnd - begin, 0, segment.length);
-  QList<QTextLayout::FormatRange> selections;
+  const double x = XBegin(index);
+  TextPaint part{.origin = paint.origin + QPointF(x, 0),
+                 .left = paint.left - x,
+                 .right = paint.right - x,
+                 .selectionBegin = 0,
+                 .selectionEnd = 0,
+                 .fore = paint.fore,
+                 .selectionFore = paint.selectionFore};
   if (from < to) {
-    const int first = DisplayOffset(index, from, Side::AfterInset);
-    const int last = DisplayOffset(index, to);
-    for (const auto& [x0, x1] : SegmentSpans(index, first, last)) {
-      painter.fillRect(QRectF(paint.origin.x() + x0, paint.origin.y(), x1 - x0, style_.rowHeight),
+    part.selectionBegin = DisplayOffset(index, from, Side::AfterInset);
+    part.selectionEnd = DisplayOffset(index, to);
+    for (const auto& [x0, x1] : segment.layout->Spans(part.selectionBegin, part.selectionEnd)) {
+      painter.fillRect(QRectF(part.origin.x() + x0, part.origin.y(), x1 - x0, style_.rowHeight),
                        paint.selectionBack);
     }
-    QTextLayout::FormatRange range;
-    range.start = first;
-    range.length = last - first;
-    range.format.setForeground(paint.selectionFore);
-    selections.append(range);
   }
-  const double x = paint.origin.x() + XBegin(index);
-  painter.setPen(paint.fore);
-  segment.layout->draw(&painter, QPointF(x, paint.origin.y()), selections);
-  DrawMarks(painter, paint, segment, x);
+  segment.layout->Draw(painter, part);
+  DrawMarks(painter, paint, segment, part.origin.x());
 }
 
 void LineLayout::DrawMarks(QPainter& painter, const LinePaint& paint, const Segment& segment,
                            double x) const {
-  const QTextLine line = segment.layout->lineAt(0);
   for (const Mark& mark : segment.marks) {
-    const double from = line.cursorToX(mark.offset);
-    const double to = line.cursorToX(mark.offset + 1);
+    const double from = segment.layout->XOf(mark.offset);
+    const double to = segment.layout->XOf(mark.offset + 1);
     const QRectF cell(x + std::min(from, to), paint.origin.y(), std::abs(to - from), style_.rowHeight);
     if (mark.unit == u'\t') {
       DrawTab(painter, cell, paint.mark);

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "document/edit_control/edit_control.hpp"
+#include "ui/laid_out_text.hpp"
 #include "ui/text_style.hpp"
 
 namespace kestri {
@@ -59,6 +60,8 @@ class LineLayout {
 
   // True once after a segment turned out wider or narrower than its estimate: what stands right of it moved.
   bool TakeMoved() { return std::exchange(moved_, false); }
+  // Whether the line is laid out in one piece, of plain text.
+  bool Plain() const { return segments_.size() == 1 && segments_[0].layout && segments_[0].layout->Plain(); }
   std::size_t SegmentCount() const { return segments_.size(); }
   std::size_t LaidOutCount() const;
 
@@ -70,9 +73,8 @@ class LineLayout {
   struct Segment {
     Position length = 0;
     double width = 0;
-    std::unique_ptr<QTextLayout> layout;
+    std::unique_ptr<LaidOutText> layout;
     std::vector<Mark> marks;
-    bool mixedDirections = false;
   };
 
   Position LineBegin() const { return control_.LineStart(line_); }

@@ -22,6 +22,11 @@ LineLayout& LineLayoutCache::Line(std::int32_t line) {
   return *slot;
 }
 
+bool LineLayoutCache::IsPlain(std::int32_t line) const {
+  const auto found = lines_.find(line);
+  return found != lines_.end() && found->second->Plain();
+}
+
 void LineLayoutCache::TextReplaced(const TextChange& change) {
   ClearInset();
   if (change.linesRemoved == 0 && change.linesInserted == 0) {

@@ -18,7 +18,8 @@ class LineLayoutCache {
 
   const TextStyle& Style() const { return style_; }
   void SetStyle(const TextStyle& style);
-  LineLayout& Line(std::int32_t line);  // 0 <= line < LineCount
+  LineLayout& Line(std::int32_t line);    // 0 <= line < LineCount
+  bool IsPlain(std::int32_t line) const;  // and laid out
   void TextReplaced(const TextChange& change);
   void SetInset(Position at, Inset inset);
   void ClearInset();

@@ -16,7 +16,9 @@ TextStyle MakeTextStyle(const QFont& font) {
   const QFontMetricsF metrics(font);
   TextStyle style;
   style.font = font;
+  style.glyphs = std::make_shared<GlyphTable>(font);
   style.cell = std::max(1.0, metrics.horizontalAdvance(QLatin1Char(' ')));
+  style.digit = std::max(1.0, metrics.horizontalAdvance(QLatin1Char('0')));
   style.tabWidth = style.cell * kTabCells;
   style.baseline = std::ceil(metrics.ascent()) + kRowGap / 2.0;
   style.rowHeight = static_cast<int>(std::ceil(metrics.ascent()) + std::ceil(metrics.descent())) + kRowGap;

@@ -2,14 +2,19 @@
 #pragma once
 
 #include <QFont>
+#include <memory>
+
+#include "ui/glyph_table.hpp"
 
 namespace kestri {
 
 struct TextStyle {
   QFont font;
-  double cell = 8;       // advance of a half-width blank
-  double tabWidth = 64;  // eight cells
-  double baseline = 12;  // from the row's top
+  std::shared_ptr<GlyphTable> glyphs;  // of the font; never null in a style that was made
+  double cell = 8;                     // advance of a half-width blank
+  double digit = 8;                    // advance of "0"
+  double tabWidth = 64;                // eight cells
+  double baseline = 12;                // from the row's top
   int rowHeight = 16;
   bool blanksShown = false;  // faint marks for full-width blanks and tabs
 };

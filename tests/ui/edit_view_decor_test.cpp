@@ -131,6 +131,30 @@ TEST(EditViewDecor, ATypedCharacterRepaintsItsRowAlone) {
   EXPECT_TRUE(QRect(0, row, 2000, row).contains(watch.painted.boundingRect()));
 }
 
+TEST(EditViewDecor, WhatStandsLeftOfATypedCharacterIsNotPaintedAgain) {
+  EditViewDesk desk;
+  desk.Put(u"plain text before‸ and behind");
+  desk.Settle();
+  PaintWatch watch(desk.view.viewport());
+  desk.Press(u"x");
+  desk.Settle();
+  const int caret = desk.view.CaretRect().left();
+  const double cell = desk.view.Style().cell;
+  EXPECT_GT(watch.painted.boundingRect().left(), caret - 4 * cell);
+  EXPECT_LT(watch.painted.boundingRect().left(), caret - cell);
+  EXPECT_EQ(watch.painted.boundingRect().right(), desk.view.viewport()->rect().right());
+}
+
+TEST(EditViewDecor, ALineThatIsShapedIsPaintedWhole) {
+  EditViewDesk desk;
+  desk.Put(u"か\u3099 text before‸ and behind");
+  desk.Settle();
+  PaintWatch watch(desk.view.viewport());
+  desk.Press(u"x");
+  desk.Settle();
+  EXPECT_EQ(watch.painted.boundingRect().left(), 0);
+}
+
 TEST(EditViewDecor, ANewLineMovesTheRowsBelowInsteadOfPaintingThem) {
   EditViewDesk desk;
   std::u16string text;
@@ -169,7 +193,20 @@ TEST(EditViewDecor, WhatWasMovedLooksAsIfItHadBeenPainted) {
                                        u"{Ctrl+A}",
                                        u"{Down}{Shift+PageUp}",
                                        u"{Tab}",
-                                       u"{Ctrl+End}{Up*8}{End}xyz{Enter}漢字"};
+                                       u"{Ctrl+End}{Up*8}{End}xyz{Enter}漢字",
+                                       u"{Up*20}{Home}{Right*5}",
+                                       u"a",
+                                       u"漢",
+                                       u"か",
+                                       u"\u3099",
+                                       u"b",
+                                       u"{Left}{Backspace}",
+                                       u"{Delete}",
+                                       u"{Shift+Right}",
+                                       u"c",
+                                       u"{Ctrl+Z}",
+                                       u"{End}d",
+                                       u"{Backspace}"};
     for (const char16_t* script : scripts) {
       desk.Press(script);
       desk.Settle();

@@ -98,6 +98,17 @@ TEST(LineLayout, ALongLineLaysOutOnlyTheSegmentsInView) {
   EXPECT_DOUBLE_EQ(line.Width(), 1'000'000 * desk.view.Style().cell);
 }
 
+TEST(LineLayout, MarksStandOverTheirLetter) {
+  for (const std::u16string_view text : {u"か\u3099", u"は\u309A", u"e\u0301", u"и\u0306"}) {
+    EditViewDesk desk;
+    desk.PutText(std::u16string(text));
+    const auto length = static_cast<Position>(text.size());
+    EditViewDesk alone;
+    alone.PutText(std::u16string(text.substr(0, 1)));
+    EXPECT_DOUBLE_EQ(desk.view.XOf(length), alone.view.XOf(1)) << ToUtf8(text);
+  }
+}
+
 TEST(LineLayout, SegmentsNeverSplitACharacter) {
   std::u16string text;
   while (text.size() < 10000) text += u"か\u3099𠮷";
