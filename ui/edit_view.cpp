@@ -16,6 +16,7 @@
 #include "platform/qt/qt_text.hpp"
 #include "ui/edit_view_accessible.hpp"
 #include "ui/line_rows.hpp"
+#include "ui/window_helpers.hpp"
 
 namespace kestri {
 namespace {
@@ -352,6 +353,7 @@ void EditView::paintEvent(QPaintEvent* event) {
   }
   painter.setClipping(false);
   PaintCaret(painter);
+  pictureTimer_.start(0, this);
   layouts_.Trim(scene.firstLine, scene.firstLine + VisibleRows());
   if (painted.widest > seenWidth_ || (painted.moved && !event->rect().contains(viewport()->rect()))) {
     seenWidth_ = std::max(seenWidth_, painted.widest);
@@ -389,6 +391,9 @@ void EditView::timerEvent(QTimerEvent* event) {
   if (event->timerId() == blinkTimer_.timerId()) {
     caretLit_ = !caretLit_;
     viewport()->update(shownCaret_);
+  } else if (event->timerId() == pictureTimer_.timerId()) {
+    pictureTimer_.stop();
+    AwaitPictureRead(*this);
   } else if (event->timerId() == idleTimer_.timerId()) {
     idleTimer_.stop();
     PrepareNextEdit();

@@ -272,6 +272,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool caretLit_ = false;
   QBasicTimer blinkTimer_;
   QBasicTimer idleTimer_;
+  QBasicTimer pictureTimer_;
   QBasicTimer autoScrollTimer_;
 
   bool homePressed_ = false;  // here, and not released yet

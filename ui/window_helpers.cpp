@@ -1,6 +1,7 @@
 #include "ui/window_helpers.hpp"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
@@ -131,6 +132,16 @@ void MoveEx(QWidget& widget, int left, int top, int width, int height, const QRe
       MoveEx(PixelRect{left, top, width + frame.width(), height + frame.height()}, ToPixelRect(area));
   widget.resize(width, height);
   widget.move(place.left, place.top);
+}
+
+void AwaitPictureRead(const QWidget& shown) {
+  const QWidget& window = *shown.window();
+  QBackingStore* store = window.backingStore();
+  const bool sharesPictures = QGuiApplication::platformName() == QLatin1String("xcb");
+  // The beginning of a painting clears what can be seen through.
+  if (!sharesPictures || store == nullptr || window.testAttribute(Qt::WA_TranslucentBackground)) return;
+  store->beginPaint(window.rect());
+  store->endPaint();
 }
 
 void TextBoxSetSel(QLineEdit& text) {
