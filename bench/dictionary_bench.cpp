@@ -2,13 +2,12 @@
 #include <benchmark/benchmark.h>
 
 #include "tags/candidate_list.hpp"
-#include "tests/fakes/memory_file_system.hpp"
-#include "tests/fakes/ports.hpp"
+#include "tests/fakes/common_world.hpp"
 
 namespace kestri {
 namespace {
 
-struct FullTables {
+struct FullTables : fakes::MemoryWorld {
   FullTables() {
     files.contents[u"/opt/Kestrile/Kestri"] = "";
     std::vector<TagRow> tags;
@@ -26,12 +25,6 @@ struct FullTables {
     dictionaries.WriteParams(params);
   }
 
-  fakes::MemoryFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
   Dictionaries dictionaries{common};
 };
 

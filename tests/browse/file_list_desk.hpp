@@ -9,12 +9,11 @@
 #include "browse/file_list.hpp"
 #include "document/document_template.hpp"
 #include "document/file_history.hpp"
-#include "tests/fakes/memory_file_system.hpp"
-#include "tests/fakes/ports.hpp"
+#include "tests/fakes/common_world.hpp"
 
 namespace kestri {
 
-struct FileListDesk : FileListWindow {
+struct FileListDesk : fakes::MemoryWorld, FileListWindow {
   bool OpenFromList(std::u16string_view path) override {
     opened.emplace_back(path);
     return answer;
@@ -37,12 +36,6 @@ struct FileListDesk : FileListWindow {
     common.SetINI(common.ExeName(), u"Setting", key, value);
   }
 
-  fakes::MemoryFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
   std::vector<std::u16string> opened;
   std::vector<std::int16_t> made;
   bool answer = true;  // of the main window

@@ -8,7 +8,7 @@
 #include "browse/dir_tree_file.hpp"
 #include "browse/directory_tree.hpp"
 #include "platform/posix/posix_file_system.hpp"
-#include "tests/fakes/ports.hpp"
+#include "tests/fakes/common_world.hpp"
 #include "tests/fakes/temporary_folder.hpp"
 
 namespace kestri {
@@ -38,7 +38,7 @@ class WithoutPrivileges {
   uid_t user_ = ::geteuid();
 };
 
-class FolderReading : public ::testing::Test {
+class FolderReading : public ::testing::Test, public fakes::CommonWorld<PosixFileSystem> {
  protected:
   void MakeFolder(const std::string& name) { fs::create_directories(folder.Path(name)); }
   std::vector<std::u16string> NamesBelow(const std::u16string& path) {
@@ -50,12 +50,6 @@ class FolderReading : public ::testing::Test {
   }
 
   fakes::TemporaryFolder folder{fakes::TemporaryFolder::Medium::Memory};
-  PosixFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
   DirectoryTree tree{common};
 };
 

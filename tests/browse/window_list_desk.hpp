@@ -5,13 +5,12 @@
 
 #include "browse/window_list.hpp"
 #include "shell/common/code_page.hpp"
-#include "tests/fakes/memory_file_system.hpp"
-#include "tests/fakes/ports.hpp"
+#include "tests/fakes/common_world.hpp"
 #include "tests/fakes/running_instances.hpp"
 
 namespace kestri {
 
-struct WindowListDesk {
+struct WindowListDesk : fakes::MemoryWorld {
   WindowListDesk() { environment.folders[SystemFolder::Windows] = u"/state"; }
 
   // Records a window in the log and lets it run under its caption.
@@ -25,12 +24,6 @@ struct WindowListDesk {
     if (!path.empty()) common.SetINIex(2, log.Path(), u"OPENFILE", digits + u"FILE", path);
   }
 
-  fakes::MemoryFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
   ApplicationState state;
   fakes::RunningInstances instances;
   InstanceLog log{common, state};

@@ -5,8 +5,7 @@
 #include <string>
 
 #include "tags/candidate_list.hpp"
-#include "tests/fakes/memory_file_system.hpp"
-#include "tests/fakes/ports.hpp"
+#include "tests/fakes/common_world.hpp"
 
 namespace kestri {
 namespace {
@@ -15,13 +14,7 @@ void Need(bool holds) {
   if (!holds) std::abort();
 }
 
-struct World {
-  fakes::MemoryFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
+struct World : fakes::MemoryWorld {
   Dictionaries dictionaries{common};
 };
 

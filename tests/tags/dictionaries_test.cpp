@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/fakes/common_world.hpp"
 #include "tests/fakes/completion_world.hpp"
 
 namespace kestri {
@@ -12,7 +13,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-class DictionariesTest : public testing::Test {
+class DictionariesTest : public testing::Test, public fakes::MemoryWorld {
  protected:
   DictionariesTest() { files.contents[u"/opt/Kestrile/Kestri"] = "the program"; }
 
@@ -23,12 +24,6 @@ class DictionariesTest : public testing::Test {
     return files.contents[u"/opt/Kestrile/DataFiles/" + std::u16string(file)];
   }
 
-  fakes::MemoryFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
   Dictionaries dictionaries{common};
 };
 

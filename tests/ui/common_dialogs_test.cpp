@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "platform/posix/posix_file_system.hpp"
-#include "tests/fakes/ports.hpp"
+#include "tests/fakes/common_world.hpp"
 #include "tests/fakes/temporary_folder.hpp"
 
 namespace kestri {
@@ -95,19 +95,13 @@ TEST(FileDialogFailure, IsReportedUnderTheNameOfTheDialogAndEndsAsACancel) {
   EXPECT_EQ(reported, QStringLiteral("CommonDialogBox: no dialog"));
 }
 
-struct FolderDialogObject : testing::Test {
+struct FolderDialogObject : testing::Test, fakes::CommonWorld<PosixFileSystem> {
   FolderDialogObject() { dialog.SetDialogTitle(u"ﾌｫﾙﾀﾞの選択"); }
   void Answer(std::u16string_view path) {
     dialogs.answers.emplace_back(FileDialogAnswer{.fileName = std::u16string(path)});
   }
 
   fakes::TemporaryFolder folder;
-  PosixFileSystem files;
-  fakes::FakeEnvironment environment;
-  fakes::FakeShell shell;
-  fakes::FakeClock clock;
-  fakes::FakeWindowServices services;
-  ClassCommon common{Ports{files, environment, shell, clock, services}, PathStyle::Posix};
   fakes::FakeMessageBox boxes;
   fakes::FakeFileDialog dialogs;
   ClassCommonDialogFolder dialog{dialogs, boxes, common};
