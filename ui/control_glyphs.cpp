@@ -5,11 +5,6 @@
 namespace kestri {
 namespace {
 
-QColor Faint(QColor color) {
-  color.setAlphaF(0.45f);
-  return color;
-}
-
 // The largest size at which the label's longest row fits the box.
 QFont LabelFont(const QFont& base, const QString& label, const QRectF& box, int rows) {
   QFont font = base;
@@ -54,27 +49,6 @@ void DrawBox(QPainter& painter, const QRectF& cell, char16_t unit, const QColor&
     const QRectF part(box.left(), box.top() + row * box.height() / rows, box.width(), box.height() / rows);
     painter.drawText(part, Qt::AlignCenter | Qt::TextDontClip, label.mid(row * columns, columns));
   }
-  painter.restore();
-}
-
-void DrawFullWidthBlank(QPainter& painter, const QRectF& cell, const QColor& color) {
-  const double side = std::min(cell.width(), cell.height()) * 0.6;
-  QRectF square(0, 0, side, side);
-  square.moveCenter(cell.center());
-  painter.save();
-  painter.setPen(QPen(Faint(color), 1, Qt::DotLine));
-  painter.drawRect(square.toRect());
-  painter.restore();
-}
-
-void DrawTab(QPainter& painter, const QRectF& cell, const QColor& color) {
-  const double y = std::floor(cell.center().y()) + 0.5;
-  const double tip = cell.left() + std::min(cell.width(), cell.height()) - 2;
-  painter.save();
-  painter.setPen(Faint(color));
-  painter.drawLine(QPointF(cell.left() + 2, y), QPointF(tip, y));
-  painter.drawLine(QPointF(tip - 3, y - 3), QPointF(tip, y));
-  painter.drawLine(QPointF(tip - 3, y + 3), QPointF(tip, y));
   painter.restore();
 }
 

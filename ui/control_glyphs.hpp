@@ -1,4 +1,4 @@
-// Characters that have no shape of their own, and the small boxes and faint marks that stand for them.
+// Characters that have no shape of their own, and the small boxes that stand for them.
 #pragma once
 
 #include <QPainter>
@@ -13,7 +13,5 @@ bool NeedsBox(char16_t unit);
 // "CR", "LF", "^A", "200E".
 QString BoxLabel(char16_t unit);
 void DrawBox(QPainter& painter, const QRectF& cell, char16_t unit, const QColor& color);
-void DrawFullWidthBlank(QPainter& painter, const QRectF& cell, const QColor& color);
-void DrawTab(QPainter& painter, const QRectF& cell, const QColor& color);
 
 }  // namespace kestri

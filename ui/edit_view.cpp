@@ -85,7 +85,6 @@ void EditView::RebuildStyle() {
   font.setKerning(false);
   font.setPixelSize(EvenPixelSize(fontPoints_, logicalDpiY()));
   TextStyle style = MakeTextStyle(font);
-  style.blanksShown = blanksShown_;
   layouts_.SetStyle(style);
   gutter_->SetStyle(style);
   strip_->SetStyle(style);
@@ -139,18 +138,6 @@ void EditView::SetLineEndMarks(bool on, int eofMarkType) {
   viewport()->update();
 }
 
-void EditView::SetLineNumbersShown(bool shown) {
-  gutterShown_ = shown;
-  LayOutFrame();
-  Schedule();
-}
-
-void EditView::SetPositionShown(bool shown) {
-  stripShown_ = shown;
-  LayOutFrame();
-  Schedule();
-}
-
 void EditView::InstallSubclass(int mode) {
   text_.InstallSubclass(mode);
   guides_ = GuideLines();
@@ -160,15 +147,11 @@ void EditView::InstallSubclass(int mode) {
   Schedule();
 }
 
-void EditView::SetBlanksShown(bool shown) {
-  if (std::exchange(blanksShown_, shown) != shown && styleBuilt_) RebuildStyle();
-}
-
 void EditView::LayOutFrame() {
   gutter_->setVisible(LineNumbersShown());
-  strip_->setVisible(PositionShown());
+  strip_->setVisible(LineNumbersShown());
   const int left = LineNumbersShown() ? gutter_->WidthFor(control_.LineCount()) : 0;
-  const int top = PositionShown() ? strip_->StripHeight() : 0;
+  const int top = LineNumbersShown() ? strip_->StripHeight() : 0;
   if (viewportMargins() != QMargins(left, top, 0, 0)) setViewportMargins(left, top, 0, 0);
   PlaceFrame();
 }

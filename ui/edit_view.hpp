@@ -51,14 +51,10 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void SetColorScheme(const ColorScheme& scheme);
   void SetGuideLines(bool on);
   void SetLineEndMarks(bool on, int eofMarkType);
-  void SetLineNumbersShown(bool shown);  // the gutter, and the position text at its head
-  void SetPositionShown(bool shown);     // the strip with the position text
-  void SetBlanksShown(bool shown);
   bool LineEndMarksShown() const {
     return marksOn_ && FontAllowsLineEndMarks(fontName_) && text_.Subclassed();
   }
-  bool LineNumbersShown() const { return gutterShown_ && text_.Subclassed(); }
-  bool PositionShown() const { return stripShown_ && LineNumbersShown(); }
+  bool LineNumbersShown() const { return text_.Subclassed(); }  // with the position text at their head
   bool GuideLinesShown() const { return guidesOn_ && text_.Subclassed(); }
   // Lays the rules over the text, mode 1, or takes them off, with everything that shows of them: without them
   // there are no line numbers, no position text, no line-end marks and no guide lines, whatever is set.
@@ -254,9 +250,6 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool marksOn_ = true;
   bool guidesOn_ = false;
   bool styleBuilt_ = false;
-  bool blanksShown_ = false;
-  bool gutterShown_ = true;
-  bool stripShown_ = true;
 
   Pending pending_;
   bool flushing_ = false;

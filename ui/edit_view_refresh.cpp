@@ -220,9 +220,10 @@ void EditView::UpdateCaret() {
 
 void EditView::UpdateDecor() {
   const std::int32_t line = control_.EM_LINEFROMCHAR(-1);
-  if (LineNumbersShown())
+  if (LineNumbersShown()) {
     gutter_->Show({FirstVisibleLine(), control_.LineCount(), line, control_.SelLength() == 0});
-  if (PositionShown()) strip_->Show(line + 1, control_.LineCount());
+    strip_->Show(line + 1, control_.LineCount());
+  }
   if (GuideLinesShown()) MoveGuides();
 }
 

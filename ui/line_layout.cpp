@@ -184,8 +184,6 @@ QString LineLayout::DisplayedText(std::size_t index, std::vector<Mark>& marks) c
     if (NeedsBox(unit)) {
       marks.push_back({DisplayOffset(index, i, Side::AfterInset), unit});
       text[i] = QChar(kIdeographicSpace);
-    } else if (style_.blanksShown && (unit == u'\t' || unit == kIdeographicSpace)) {
-      marks.push_back({DisplayOffset(index, i, Side::AfterInset), unit});
     }
   }
   return text;
@@ -307,14 +305,8 @@ void LineLayout::DrawMarks(QPainter& painter, const LinePaint& paint, const Segm
     const double from = segment.layout->XOf(mark.offset);
     const double to = segment.layout->XOf(mark.offset + 1);
     const QRectF cell(x + std::min(from, to), paint.origin.y(), std::abs(to - from), style_.rowHeight);
-    if (mark.unit == u'\t') {
-      DrawTab(painter, cell, paint.mark);
-    } else if (mark.unit == kIdeographicSpace) {
-      DrawFullWidthBlank(painter, cell, paint.mark);
-    } else {
-      painter.setFont(style_.font);
-      DrawBox(painter, cell, mark.unit, paint.mark);
-    }
+    painter.setFont(style_.font);
+    DrawBox(painter, cell, mark.unit, paint.mark);
   }
 }
 

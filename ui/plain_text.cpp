@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "shell/common/text.hpp"
+
 namespace kestri {
 namespace {
 
-constexpr char16_t kIdeographicBlank = 0x3000;
 constexpr int kOverhang = 2;  // glyphs that may reach into the part that shows from either side
 
 // Whether the character is drawn by its own glyph whatever stands beside it: western letters, kana,
@@ -25,7 +26,7 @@ bool StandsAlone(char16_t unit) {
 }
 
 bool LeavesNoInk(char16_t unit) {
-  return unit == u' ' || unit == kIdeographicBlank;
+  return unit == u' ' || unit == kIdeographicSpace;
 }
 
 }  // namespace

@@ -16,7 +16,6 @@ struct TextStyle {
   double tabWidth = 64;                // eight cells
   double baseline = 12;                // from the row's top
   int rowHeight = 16;
-  bool blanksShown = false;  // faint marks for full-width blanks and tabs
 };
 
 TextStyle MakeTextStyle(const QFont& font);

@@ -84,11 +84,9 @@ class HTMLfrm : public QMainWindow,
   void ShowFileList(FileListStart start);
   EditControl& Control() { return control_; }
   EditView& TextView() { return *view_; }
-  Document& CurrentDocument() { return document_; }
   InToTAGFrm& Popup() { return popupForm_; }
   CommandActions& Commands() { return *actions_; }
   StatusPanes& Panes() { return *panes_; }
-  ToolBar& Tools() { return *toolBar_; }
   EditorCommands& CommandTarget() { return commands_; }
 
  protected:

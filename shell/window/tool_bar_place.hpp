@@ -6,9 +6,10 @@
 
 #include "shell/common/class_common.hpp"
 #include "shell/window/settings_reader.hpp"
-#include "shell/window/tool_rows.hpp"
 
 namespace kestri {
+
+enum class BarState { Docked, Floating };
 
 struct ToolBarPlace {
   BarState state = BarState::Docked;

@@ -105,8 +105,4 @@ std::u16string ExternalProgramCaption(std::u16string_view programName) {
   return u"外部ｴﾃﾞｨﾀ(" + std::u16string(programName) + u")...";
 }
 
-std::u16string_view DockingCaption(BarState state) {
-  return state == BarState::Floating ? u"ﾂｰﾙﾊﾞｰのﾄﾞｯｷﾝｸﾞ" : u"ﾂｰﾙﾊﾞｰの切り離し";
-}
-
 }  // namespace kestri

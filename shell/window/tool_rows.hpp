@@ -47,7 +47,4 @@ DocumentTool ToolOfDocument(std::int32_t fileKind);
 // An empty name: no program is registered.
 std::u16string ExternalProgramCaption(std::u16string_view programName);
 
-enum class BarState { Docked, Floating };
-std::u16string_view DockingCaption(BarState state);
-
 }  // namespace kestri

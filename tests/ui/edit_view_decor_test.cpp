@@ -262,12 +262,12 @@ TEST(EditViewDecor, GuideLinesHideWithASelectionMadeFromElsewhere) {
 TEST(EditViewDecor, ThePositionTextGoesWithTheLineNumbers) {
   EditViewDesk desk;
   desk.Put(u"a\nb‸");
-  desk.view.SetLineNumbersShown(false);
+  desk.view.InstallSubclass(0);
   EXPECT_FALSE(desk.view.LineNumbers().isVisible());
   EXPECT_FALSE(desk.view.PositionDisplay().isVisible());
   EXPECT_EQ(desk.view.viewport()->geometry().topLeft(), desk.view.contentsRect().topLeft());
   desk.Press(u"{Up}");
-  desk.view.SetLineNumbersShown(true);
+  desk.view.InstallSubclass(1);
   desk.Settle();
   EXPECT_TRUE(desk.view.LineNumbers().isVisible());
   EXPECT_TRUE(desk.view.PositionDisplay().isVisible());

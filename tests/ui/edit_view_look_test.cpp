@@ -57,12 +57,11 @@ TEST(EditViewLook, ABarePageWithoutTheSubclass) {
   EXPECT_GT(picture.width(), desk.view.width() - 30) << "the text begins at the window's left edge";
 }
 
-TEST(EditViewLook, GuideLinesAndMarksOfBlanks) {
+TEST(EditViewLook, GuideLinesCrossAtTheCaret) {
   EditViewDesk desk;
   desk.Put(kPage);
   const QImage plain = Picture(desk, "plain");
   desk.view.SetGuideLines(true);
-  desk.view.SetBlanksShown(true);
   desk.view.SetLineEndMarks(true, 1);
   desk.Press(u"{Ctrl+Home}{Down*6}{Right*3}");
   const QImage decorated = Picture(desk, "guides");

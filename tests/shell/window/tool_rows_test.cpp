@@ -149,10 +149,5 @@ TEST(ToolRows, AnExternalProgramIsNamedOrNone) {
   EXPECT_EQ(ExternalProgramCaption(u"(なし)"), u"(なし)");
 }
 
-TEST(ToolRows, TheDockingEntryNamesWhatItWillDo) {
-  EXPECT_EQ(DockingCaption(BarState::Floating), u"ﾂｰﾙﾊﾞｰのﾄﾞｯｷﾝｸﾞ");
-  EXPECT_EQ(DockingCaption(BarState::Docked), u"ﾂｰﾙﾊﾞｰの切り離し");
-}
-
 }  // namespace
 }  // namespace kestri
