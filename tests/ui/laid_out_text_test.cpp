@@ -65,7 +65,7 @@ TEST(LaidOutText, PlainTextStandsWhereShapedTextStands) {
 }
 
 TEST(LaidOutText, PlainTextLooksAsShapedText) {
-  for (const double scale : {1.0, 2.0}) {
+  for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
     for (const int pixels : {12, 18, 24}) {
       const TextStyle style = Style("IPAGothic", pixels);
       for (const QString& row : PlainRows()) {
