@@ -252,10 +252,10 @@ void EditView::EnsureCaretVisible() {
   if (!styleBuilt_) RebuildStyle();
   UpdateScrollRanges();
   const std::int32_t line = control_.LineOf(control_.Caret());
+  NoteWidth(layouts_.Line(line).Width());  // first: the horizontal bar may take a row
   const std::int32_t first = FirstVisibleLine();
   if (line < first) verticalScrollBar()->setValue(line);
   if (line >= first + VisibleRows()) verticalScrollBar()->setValue(line - VisibleRows() + 1);
-  NoteWidth(layouts_.Line(line).Width());
   const QRect caret = CaretRect();
   const int width = viewport()->width();
   const int jump = width / 4;
@@ -271,6 +271,7 @@ void EditView::EnsureCaretVisible() {
 // ---- events
 
 void EditView::scrollContentsBy(int dx, int dy) {
+  pictureTimer_.stop();
   if (!anchoring_) {
     const bool near = std::abs(dx) < viewport()->width() && std::abs(dy) < VisibleRows();
     const int down = HeightOfRows(dy, Style().rowHeight);
@@ -336,6 +337,7 @@ void EditView::paintEvent(QPaintEvent* event) {
   }
   painter.setClipping(false);
   PaintCaret(painter);
+  paintedPixel_ = viewport()->mapTo(window(), event->region().begin()->center());
   pictureTimer_.start(0, this);
   layouts_.Trim(scene.firstLine, scene.firstLine + VisibleRows());
   if (painted.widest > seenWidth_ || (painted.moved && !event->rect().contains(viewport()->rect()))) {
@@ -376,7 +378,7 @@ void EditView::timerEvent(QTimerEvent* event) {
     viewport()->update(shownCaret_);
   } else if (event->timerId() == pictureTimer_.timerId()) {
     pictureTimer_.stop();
-    AwaitPictureRead(*this);
+    AwaitPictureRead(*window(), paintedPixel_);
   } else if (event->timerId() == idleTimer_.timerId()) {
     idleTimer_.stop();
     PrepareNextEdit();

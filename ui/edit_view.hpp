@@ -180,6 +180,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   void Post();
   bool Frozen() const { return hidden_ || !redraw_; }
   void Thaw();
+  void BringUpToDate(const Pending& pending);
   void NoteNewText();
   void NoteDirtyRows(const TextChange& change);
   void NoteLinesShifted(const TextChange& change);
@@ -265,7 +266,8 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool caretLit_ = false;
   QBasicTimer blinkTimer_;
   QBasicTimer idleTimer_;
-  QBasicTimer pictureTimer_;
+  QBasicTimer pictureTimer_;  // runs from a painting until the next scrolling at most
+  QPoint paintedPixel_;       // of the window
   QBasicTimer autoScrollTimer_;
 
   bool homePressed_ = false;  // here, and not released yet

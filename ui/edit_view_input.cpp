@@ -233,6 +233,8 @@ void EditView::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void EditView::CommitFromInputMethod(const QInputMethodEvent& event) {
+  const std::int32_t line = control_.LineOf(control_.Caret());
+  UpdateRows(line, line);  // also when nothing comes for what is taken away
   preedit_ = Inset();
   layouts_.ClearInset();
   const bool replaces = event.replacementLength() > 0 && SelectForInputMethod(event);

@@ -1,8 +1,10 @@
 // What changed since the screen was last brought up to date, and bringing it up to date.
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <new>
 #include <utility>
 
 #include "ui/edit_view.hpp"
@@ -52,7 +54,8 @@ void EditView::ResetCaretMemo() {
 
 // ---- what the control tells
 
-void EditView::TextReplaced(const TextChange& change) {
+// Runs in the destructor of the control's message: no memory for the layouts is no reason to lose the text.
+void EditView::TextReplaced(const TextChange& change) try {
   teller_->TextReplaced(change);
   pending_.text = true;
   if (change.at == 0 && change.inserted == control_.Length()) NoteNewText();
@@ -60,6 +63,9 @@ void EditView::TextReplaced(const TextChange& change) {
   NoteDirtyRows(change);
   layouts_.TextReplaced(change);
   Schedule();
+} catch (const std::bad_alloc&) {
+  layouts_.Clear();
+  pending_.all = true;
 }
 
 void EditView::NoteDirtyRows(const TextChange& change) {
@@ -118,8 +124,15 @@ void EditView::Post() {
 void EditView::Flush() {
   if (!styleBuilt_) RebuildStyle();
   if (!pending_.any || Frozen() || flushing_) return;
-  flushing_ = true;
   const Pending pending = std::exchange(pending_, Pending());
+  BringUpToDate(pending);
+  if (caretMoved) caretMoved();
+  if (pending_.any) Post();
+}
+
+// What an error leaves undone is painted with the next change.
+void EditView::BringUpToDate(const Pending& pending) try {
+  const QScopedValueRollback<bool> flushing(flushing_, true);
   if (Composing()) ApplyInset();
   if (pending.startOver) StartOver();
   if (pending.anchorBy != 0) FollowLinesAbove(pending.anchorBy);
@@ -132,9 +145,9 @@ void EditView::Flush() {
   teller_->CaretMoved();
   updateMicroFocus();
   idleTimer_.start(kIdleMilliseconds, this);
-  flushing_ = false;
-  if (caretMoved) caretMoved();
-  if (pending_.any) Post();
+} catch (...) {
+  pending_.all = true;
+  throw;
 }
 
 // The scroll bars' ranges follow the text that shows only from here on: a bar's place would hold on to the
@@ -146,10 +159,12 @@ void EditView::StartOver() {
 
 // What shows stays where it is on the screen.
 void EditView::FollowLinesAbove(std::int32_t by) {
+  const std::int32_t wanted = FirstVisibleLine() + by;
   anchoring_ = true;
   verticalScrollBar()->setRange(0, std::max(0, control_.LineCount() - VisibleRows()));
-  verticalScrollBar()->setValue(FirstVisibleLine() + by);
+  verticalScrollBar()->setValue(wanted);
   anchoring_ = false;
+  if (FirstVisibleLine() != wanted) viewport()->update();  // near the end of the text it cannot stay
 }
 
 void EditView::UpdateChangedRows(const Pending& pending) {
@@ -185,6 +200,7 @@ void EditView::ShiftRows(std::int32_t fromLine, std::int32_t by) {
   if (guides_.visible || std::abs(newTop - oldTop) >= height || std::min(oldTop, newTop) < 0) {
     viewport()->update(below);
   } else {
+    pictureTimer_.stop();
     viewport()->scroll(0, static_cast<int>(newTop - oldTop), below);
   }
   viewport()->update(0, static_cast<int>(top) - Style().rowHeight, viewport()->width(), Style().rowHeight);

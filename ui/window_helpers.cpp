@@ -134,13 +134,12 @@ void MoveEx(QWidget& widget, int left, int top, int width, int height, const QRe
   widget.move(place.left, place.top);
 }
 
-void AwaitPictureRead(const QWidget& shown) {
-  const QWidget& window = *shown.window();
+void AwaitPictureRead(const QWidget& window, QPoint painted) {
   QBackingStore* store = window.backingStore();
   const bool sharesPictures = QGuiApplication::platformName() == QLatin1String("xcb");
   // The beginning of a painting clears what can be seen through.
   if (!sharesPictures || store == nullptr || window.testAttribute(Qt::WA_TranslucentBackground)) return;
-  store->beginPaint(window.rect());
+  store->beginPaint(QRect(painted, QSize(1, 1)));
   store->endPaint();
 }
 

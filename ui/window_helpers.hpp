@@ -43,9 +43,10 @@ void SetRedraw(QWidget& control, Redraw redraw);
 // The Down key opens the closed list instead of choosing the next row; F4 opens and closes it as everywhere.
 void SetExtendedUI(QComboBox& combo);
 
-// Returns when the display has read the picture that the widget's window sent last. Qt waits for that before
-// it paints there again; called in the pause behind a painting this takes the wait out of the next key press.
-void AwaitPictureRead(const QWidget& shown);
+// Returns when the display has read the picture that the window sent last. Qt waits for that before it paints
+// there again; called in the pause behind a painting this takes the wait out of the next key press. The pixel
+// must have been painted by the last painting and not scrolled since: it counts as painted once more.
+void AwaitPictureRead(const QWidget& window, QPoint painted);
 
 // Numbers of the system's own icons.
 enum class StockIcon : int {

@@ -399,6 +399,27 @@ TEST(EditViewDecor, LinesPutInAboveDoNotMoveWhatShows) {
   EXPECT_EQ(desk.view.viewport()->grab().toImage(), before);
 }
 
+TEST(EditViewDecor, LinesThatGoAboveNearTheEndOfTheTextArePaintedAnew) {
+  EditViewDesk desk;
+  std::u16string text;
+  for (int i = 0; i < 120; ++i) text += u"line " + ToText(i) + u"\r\n";
+  desk.PutText(text);
+  EditControl& control = desk.Control();
+  control.SetSelStart(control.LineStart(100));
+  desk.Settle();
+  std::u16string more;
+  for (int i = 0; i < 10; ++i) more += u"more " + ToText(i) + u"\r\n";
+  desk.text.ReplaceSelHwnd(more, true, true);
+  desk.Settle();
+  desk.view.verticalScrollBar()->setValue(desk.view.verticalScrollBar()->maximum());
+  desk.Settle();
+  desk.text.MenUNDO(0);
+  desk.Settle();
+  const QImage screen = desk.view.screen()->grabWindow(desk.view.winId()).toImage();
+  const QImage fresh = desk.view.grab().toImage();
+  EXPECT_EQ(screen.convertToFormat(QImage::Format_RGB32), fresh.convertToFormat(QImage::Format_RGB32));
+}
+
 TEST(EditViewDecor, NothingIsPaintedWhileRedrawIsOff) {
   EditViewDesk desk;
   desk.Put(u"abc‸");
