@@ -20,9 +20,10 @@ std::u16string MainText::ExpandTabs(std::u16string_view text) const {
 
 void MainText::ReplaceSelRaw(std::u16string_view text, bool redraw, bool scroll) {
   if (redraw) return EM_REPLACESEL(text);
-  control_.WM_SETREDRAW(false);
-  EM_REPLACESEL(text);
-  control_.WM_SETREDRAW(true);
+  {
+    const RedrawOff frozen(control_);
+    EM_REPLACESEL(text);
+  }
   if (scroll) control_.EM_SCROLLCARET();
 }
 

@@ -151,4 +151,16 @@ class EditScope {
   EditControl& control_;
 };
 
+// Nothing is painted while it lives.
+class RedrawOff {
+ public:
+  explicit RedrawOff(EditControl& control) : control_(control) { control_.WM_SETREDRAW(false); }
+  ~RedrawOff() { control_.WM_SETREDRAW(true); }
+  RedrawOff(const RedrawOff&) = delete;
+  RedrawOff& operator=(const RedrawOff&) = delete;
+
+ private:
+  EditControl& control_;
+};
+
 }  // namespace kestri
