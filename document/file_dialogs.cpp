@@ -39,6 +39,8 @@ bool Document::SaveAsDialog(std::u16string_view startFolder) {
                         .filterIndex = row,
                         .folder = folder,
                         .fileName = common_.Join(folder, name),
+                        .unchangedName = Named() ? common_.Join(folder, common_.CFile(state_.currentFile, 0))
+                                                 : std::u16string(),
                         .flags = kNoReadOnlyReturn | kFileMustExist | kHideReadOnly | kOverwritePrompt});
   return answer && WriteDocument(answer->fileName);
 }

@@ -22,6 +22,9 @@ struct FileDialogRequest {
   int filterIndex = 1;    // one-based row
   std::u16string folder;
   std::u16string fileName;  // suggestion, a name or a whole path
+  // Whole path that AskSave answers when suggestion, folder and row are left as they are; empty: what stands
+  // there is answered.
+  std::u16string unchangedName = {};
   std::uint32_t flags = 0;
 };
 

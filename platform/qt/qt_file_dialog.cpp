@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeDatabase>
 #include <QPushButton>
 #include <algorithm>
 #include <utility>
@@ -62,10 +64,32 @@ int RowOf(const QFileDialog& dialog) {
   return rows == nullptr ? 1 : qMax(0, rows->currentIndex()) + 1;
 }
 
-std::optional<FileDialogAnswer> Answer(QFileDialog& dialog) {
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+// A name with a double quote in it is one name here; the toolkit would take it for a list of names.
+class OneFileDialog : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+  QString NameField() const {
+    const auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    return field == nullptr ? QString() : field->text();
+  }
+  QString Chosen() const {
+    if (NameField().contains(u'"')) return directory().absoluteFilePath(NameField());
+    const QStringList files = selectedFiles();
+    return files.isEmpty() ? QString() : files.constFirst();
+  }
+
+  void accept() override {
+    const QFileInfo quoted(directory().absoluteFilePath(NameField()));
+    const bool stands = quoted.isFile() || (acceptMode() == AcceptSave && !quoted.exists());
+    NameField().contains(u'"') && stands ? QDialog::accept() : QFileDialog::accept();
+  }
+};
+
+std::optional<FileDialogAnswer> Answer(OneFileDialog& dialog) {
+  if (dialog.exec() != QDialog::Accepted || dialog.Chosen().isEmpty()) return std::nullopt;
   FileDialogAnswer answer;
-  answer.fileName = FromQtPath(dialog.selectedFiles().constFirst());
+  answer.fileName = FromQtPath(dialog.Chosen());
   answer.filterIndex = RowOf(dialog);
   return answer;
 }
@@ -82,14 +106,27 @@ bool EndsInOneOf(const QString& path, const QStringList& patterns) {
   });
 }
 
-// The name with the row's first extension behind it, unless it ends in one of any row's or the row takes any
-// name.
+bool HasUsualExtension(const QString& path) {
+  const QString extension = QMimeDatabase().suffixForFileName(path);
+  return std::any_of(extension.begin(), extension.end(), [](QChar c) { return c.isLetter(); });
+}
+
+// The name with the row's first extension behind it, unless it ends in one of any row's or in one that the
+// desktop knows, or the row takes any name.
 QString WithExtension(const QString& path, const QString& nameFilter, const QStringList& allRows) {
   const QStringList patterns = PatternsOf(nameFilter);
   if (patterns.isEmpty() || patterns.contains(QStringLiteral("*"))) return path;
   const bool known = std::any_of(allRows.begin(), allRows.end(),
                                  [&path](const QString& row) { return EndsInOneOf(path, PatternsOf(row)); });
-  return known ? path : path + patterns.constFirst().mid(1);
+  return known || HasUsualExtension(path) ? path : path + patterns.constFirst().mid(1);
+}
+
+// Whether nothing was changed of what the dialog began with.
+bool LeftAsItWas(const OneFileDialog& dialog, const FileDialogRequest& request, int row) {
+  const QFileInfo suggestion(ToQtPath(request.fileName));
+  const QString folder = request.folder.empty() ? suggestion.path() : ToQtPath(request.folder);
+  return row == request.filterIndex && dialog.NameField() == suggestion.fileName() &&
+         dialog.directory() == QDir(folder);
 }
 
 bool MayReplace(QWidget& dialog, const QString& path) {
@@ -125,7 +162,7 @@ QStringList NameFilters(const std::u16string& filter) {
 std::optional<FileDialogAnswer> QtFileDialog::AskOpen(const FileDialogRequest& request) {
   InstallJapaneseLabels();
   FileTypes types;
-  QFileDialog dialog(DialogOwner(owner_));
+  OneFileDialog dialog(DialogOwner(owner_));
   dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -139,18 +176,21 @@ std::optional<FileDialogAnswer> QtFileDialog::AskOpen(const FileDialogRequest& r
 std::optional<FileDialogAnswer> QtFileDialog::AskSave(const FileDialogRequest& request) {
   InstallJapaneseLabels();
   FileTypes types;
-  QFileDialog dialog(DialogOwner(owner_));
+  OneFileDialog dialog(DialogOwner(owner_));
   dialog.setIconProvider(&types);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked below, of the name with its extension
   Prepare(dialog, request);
   while (auto answer = Answer(dialog)) {
-    const QString row = dialog.nameFilters().value(answer->filterIndex - 1);
-    const QString path = WithExtension(ToQtPath(answer->fileName), row, dialog.nameFilters());
-    if ((request.flags & kOverwritePrompt) != 0 && !MayReplace(dialog, path)) continue;
-    answer->fileName = FromQtPath(path);
-    return answer;
+    if (!request.unchangedName.empty() && LeftAsItWas(dialog, request, answer->filterIndex)) {
+      answer->fileName = request.unchangedName;
+    } else {
+      const QString row = dialog.nameFilters().value(answer->filterIndex - 1);
+      answer->fileName = FromQtPath(WithExtension(ToQtPath(answer->fileName), row, dialog.nameFilters()));
+    }
+    const bool ask = (request.flags & kOverwritePrompt) != 0;
+    if (!ask || MayReplace(dialog, ToQtPath(answer->fileName))) return answer;
   }
   return std::nullopt;
 }

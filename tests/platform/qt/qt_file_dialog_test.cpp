@@ -28,7 +28,8 @@ class SaveDialog : public testing::Test {
  protected:
   // Types the name into the dialog and accepts it, answers the question if one comes, and gives up when the
   // dialog is there again.
-  std::optional<FileDialogAnswer> Save(const QString& name, int row, const QString& answer = QString()) {
+  std::optional<FileDialogAnswer> Save(const std::optional<QString>& name, int row,
+                                       const QString& answer = QString()) {
     bool typed = false;
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, [&] {
@@ -36,7 +37,7 @@ class SaveDialog : public testing::Test {
       if (auto* question = qobject_cast<QMessageBox*>(open)) return Answer(*question, answer);
       auto* dialog = qobject_cast<QFileDialog*>(open);
       if (dialog == nullptr) return;
-      dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+      if (name) dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(*name);
       QMetaObject::invokeMethod(dialog, std::exchange(typed, true) ? "reject" : "accept");
     });
     user.start(20);
@@ -46,7 +47,8 @@ class SaveDialog : public testing::Test {
                                       u"ｽﾀｲﾙｼｰﾄ (*.css)|*.css",
                             .filterIndex = row,
                             .folder = folder_.Text(),
-                            .fileName = u"",
+                            .fileName = suggestion_,
+                            .unchangedName = unchanged_,
                             .flags = kOverwritePrompt});
   }
 
@@ -58,6 +60,8 @@ class SaveDialog : public testing::Test {
   }
 
   fakes::TemporaryFolder folder_;
+  std::u16string suggestion_;
+  std::u16string unchanged_;
   QString asked_;
 };
 
@@ -84,6 +88,33 @@ TEST_F(SaveDialog, TheRowOfAllFilesAddsNothing) {
   ASSERT_TRUE(answer);
   EXPECT_EQ(answer->fileName, folder_.Text(u"README"));
   EXPECT_EQ(answer->filterIndex, 2);
+}
+
+TEST_F(SaveDialog, AnExtensionThatTheDesktopKnowsIsKept) {
+  const auto answer = Save(QStringLiteral("page.php"), 1);
+  ASSERT_TRUE(answer);
+  EXPECT_EQ(answer->fileName, folder_.Text(u"page.php"));
+}
+
+TEST_F(SaveDialog, ASuggestionLeftAsItIsKeepsTheDocumentsOwnName) {
+  for (const auto& [suggested, whole] : {std::pair(u"style.css", u"style.css.txt"),
+                                         {u"INDEX", u"INDEX.HTM"},
+                                         {u"5\" disk", u"5\" disk.htm"}}) {
+    suggestion_ = folder_.Text(suggested);
+    unchanged_ = folder_.Text(whole);
+    const auto answer = Save(std::nullopt, 1);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->fileName, unchanged_);
+  }
+  const auto renamed = Save(QStringLiteral("other"), 1);
+  ASSERT_TRUE(renamed);
+  EXPECT_EQ(renamed->fileName, folder_.Text(u"other.htm"));
+}
+
+TEST_F(SaveDialog, QuotesBelongToTheName) {
+  const auto answer = Save(QStringLiteral("my \"best\" page"), 1);
+  ASSERT_TRUE(answer);
+  EXPECT_EQ(answer->fileName, folder_.Text(u"my \"best\" page.htm"));
 }
 
 TEST_F(SaveDialog, TheFileThatWouldReallyBeReplacedIsAskedFor) {
