@@ -51,13 +51,28 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// The toolkit's label grows for words that can be broken only: places to break are put into long ones.
+QString Breakable(const QString& text) {
+  constexpr int kLongestWord = 40;
+  constexpr QChar kBreak(0x200B);
+  QString result;
+  int run = 0;
+  for (const QChar character : text) {
+    const bool breaks = character.isSpace() || character.unicode() >= 0x2E80;
+    run = breaks || run == kLongestWord ? 0 : run + 1;
+    if (!breaks && run == 0 && !character.isLowSurrogate()) result += kBreak;
+    result += character;
+  }
+  return result;
+}
+
 }  // namespace
 
 MessageAnswer QtMessageBox::Ask(const MessageRequest& request) {
   QMessageBox box(DialogOwner(owner_));
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(ToQt(request.caption));
-  box.setText(ToQt(request.text));
+  box.setText(Breakable(ToQt(request.text)));
   box.setIcon(IconOf(request.icon));
 
   const std::vector<Button> buttons = ButtonsOf(request.buttons);
