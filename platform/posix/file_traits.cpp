@@ -28,9 +28,15 @@ void CopyAttribute(const char* from, int to, const char* name) {
   if (length >= 0) ::fsetxattr(to, name, value.data(), static_cast<std::size_t>(length), 0);
 }
 
+// What the folder would let others do with a new file is not what the old one allowed.
+void DropInheritedAccess(int file) {
+  ::fremovexattr(file, "system.posix_acl_access");
+}
+
 }  // namespace
 
 bool KeepOwnerAndMode(PosixCalls& calls, int file, const struct stat& old) {
+  DropInheritedAccess(file);
   struct stat made {};
   if (::fstat(file, &made) != 0) return false;
   const bool ownerStays = made.st_uid == old.st_uid && made.st_gid == old.st_gid;
@@ -40,6 +46,7 @@ bool KeepOwnerAndMode(PosixCalls& calls, int file, const struct stat& old) {
 }
 
 void GiveTraits(PosixCalls& calls, int copy, const Original& original) {
+  DropInheritedAccess(copy);
   calls.ChangeMode(copy, original.status.st_mode & kAccessBits);
   KeepAttributes(copy, original.path);
   const timespec times[] = {original.status.st_atim, original.status.st_mtim};
