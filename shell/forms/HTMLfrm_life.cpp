@@ -55,7 +55,8 @@ void HTMLfrm::ApplyTopMost() {
 void HTMLfrm::closeEvent(QCloseEvent* event) {
   popup_.Deactivate();
   view_->CommitComposition();
-  if (agreedToEnd_.hasExpired() && !document_.ConfirmDiscard(u"終了")) {
+  const bool agreed = !agreedToEnd_.hasExpired() && !view_->Control().Modified();
+  if (!agreed && !document_.ConfirmDiscard(u"終了")) {
     event->ignore();
     return;
   }
@@ -77,6 +78,7 @@ bool HTMLfrm::AgreesToEnd() {
   view_->CommitComposition();
   if (!document_.ConfirmDiscard(u"終了")) return false;
   agreedToEnd_.setRemainingTime(kMilliseconds);
+  view_->Control().SetModified(false);  // the answer is about the text as it stands
   return true;
 }
 

@@ -320,6 +320,17 @@ TEST_F(Life, TheAnswerAtTheSessionsEndCountsForTheCloseBehindIt) {
   EXPECT_FALSE(desk.window->isVisible());
 }
 
+TEST_F(Life, WhatIsTypedAfterTheAnswerAtTheSessionsEndIsAskedFor) {
+  desk.Open();
+  desk.Press(u"x");
+  desk.boxes.answers = {MessageAnswer::No, MessageAnswer::Cancel};
+  EXPECT_TRUE(desk.window->AgreesToEnd());
+  desk.Press(u"y");
+  desk.window->close();
+  EXPECT_EQ(desk.boxes.asked.size(), 2u);
+  EXPECT_TRUE(desk.window->isVisible());
+}
+
 TEST_F(Life, WhoStaysAtTheSessionsEndIsAskedAgainByTheNextClose) {
   desk.Open();
   desk.Press(u"x");
