@@ -164,7 +164,7 @@ void Document::ApplyOpenedFile(std::u16string_view openedPath, ReadOnly readOnly
 
 void Document::NameDocument(const std::u16string& path) {
   if (path != state_.currentFile) {
-    unreadableBytes_ = false;
+    byteLoss_ = ByteLoss::None;
     acceptedLoss_ = {};
   }
   onDisk_ = path.empty() ? std::nullopt : common_.PortSet().files.Status(path);

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "document/backup.hpp"
+#include "document/byte_loss.hpp"
 #include "document/document_log.hpp"
 #include "document/document_window.hpp"
 #include "document/edit_control/edit_control.hpp"
@@ -82,7 +83,7 @@ class Document {
     std::optional<FileStatus> onDisk;
     std::u16string text;
     std::u16string lineEnd;
-    bool unreadable = false;  // some bytes were no characters of the code page
+    ByteLoss loss = ByteLoss::None;
   };
 
   // Opening.
@@ -93,7 +94,6 @@ class Document {
   bool AcceptsLength(const Opening& opening);
   void FinishOpening(const Opening& opening);
   void RestoreReadingPosition(const std::u16string& path);
-  bool HoldsUnreadableBytes(const std::u16string& path, std::u16string_view text) const;
   std::u16string AbsolutePath(std::u16string_view path) const;
 
   // What follows when nothing was opened. The texts returned go to the log.
@@ -107,9 +107,10 @@ class Document {
 
   // Saving.
   bool TellOverwriteRefusal(const std::u16string& path);
+  bool IsCurrentFile(const std::u16string& path) const;
   bool AgreesToOverwrite(const std::u16string& path);
   bool AgreesToForeignChange(const std::u16string& path);
-  bool AgreesToUnreadableBytes(const std::u16string& path);
+  bool AgreesToByteLoss(const std::u16string& path);
   bool AgreesToLossyCharacters(const std::u16string& path);
   bool AskAboutLoss(const std::u16string& path, const LossyCharacter& added);
   bool Write(const std::u16string& path);
@@ -156,8 +157,8 @@ class Document {
   std::size_t textLimit_ = kLongestText;
   std::u16string titlePart_;
   std::u16string_view readOnlyMark_;
-  std::optional<FileStatus> onDisk_;  // the file as this document knows it; nothing for a new document
-  bool unreadableBytes_ = false;      // the file holds bytes that the text does not
+  std::optional<FileStatus> onDisk_;    // the file as this document knows it; nothing for a new document
+  ByteLoss byteLoss_ = ByteLoss::None;  // what the file holds and the text does not
   struct AcceptedLoss {
     std::u16string path;
     std::set<char32_t> characters;

@@ -13,35 +13,23 @@ namespace {
 
 constexpr std::u16string_view kEmptyHistoryPlace = u"Empty!!";
 constexpr std::size_t kAdvisedBytes = 32000;
-constexpr char16_t kUnreadable = u'\u30FB';
 
 // More characters than advised bytes are more bytes in any case.
 bool IsLongerThanAdvised(std::u16string_view text) {
   return text.size() > kAdvisedBytes || code_page::EncodedLength(text) > kAdvisedBytes;
 }
 
-std::size_t CountUnits(std::u16string_view text, char16_t unit) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), unit));
+std::u16string_view WordsFor(ByteLoss loss) {
+  switch (loss) {
+    case ByteLoss::Unreadable:
+      return u"ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました";
+    case ByteLoss::Utf8:
+      return u"UTF-8のﾌｧｲﾙを ｼﾌﾄJISとして開きました";
+    case ByteLoss::None:
+      break;
+  }
+  return {};
 }
-
-// Counts the two-byte code of U+30FB in a file that arrives in pieces.
-class MiddleDotCounter {
- public:
-  void Append(std::string_view bytes) {
-    for (const char byte : bytes) Take(static_cast<unsigned char>(byte));
-  }
-  std::size_t Count() const { return count_; }
-
- private:
-  void Take(unsigned char byte) {
-    const bool isTrail = lead_ != 0 && byte != 0;
-    if (lead_ == 0x81 && byte == 0x45) ++count_;
-    lead_ = !isTrail && code_page::IsLeadByte(byte) ? byte : 0;
-  }
-
-  unsigned char lead_ = 0;
-  std::size_t count_ = 0;
-};
 
 }  // namespace
 
@@ -88,7 +76,7 @@ Document::OpenResult Document::Read(Opening& opening) {
   const ClassCommon::TextRead read = common_.ReadWholeText(opening.longPath, opening.text, textLimit_);
   if (read == ClassCommon::TextRead::NoText) return KindOfNoText(opening.longPath);
   if (read == ClassCommon::TextRead::TooLong) return OpenResult::TextRefused;
-  opening.unreadable = HoldsUnreadableBytes(opening.longPath, opening.text);
+  opening.loss = ByteLossOf(common_.PortSet().files, opening.longPath, opening.text);
   if (!IsTemplate(common_, opening.longPath)) opening.text = TabsToBlanks(std::move(opening.text));
   opening.lineEnd = ConvertLineEnds(opening.text);
   return OpenResult::Loaded;
@@ -108,9 +96,10 @@ std::u16string Document::AbsolutePath(std::u16string_view path) const {
   if (!relative) return std::u16string(path);
   FileSystem& files = common_.PortSet().files;
   if (common_.IsFileAttribute(path, kAttributeDirectory)) return files.Canonical(path);
-  const std::u16string folder = common_.CPath(path, -2);
-  const std::u16string whole = files.Canonical(folder.empty() ? std::u16string_view(u".") : folder);
-  return whole.empty() ? std::u16string(path) : common_.Join(whole, common_.CFile(path, 0));
+  const auto slash = path.rfind(u'/');
+  const bool named = slash == std::u16string_view::npos;
+  const std::u16string whole = files.Canonical(named ? std::u16string_view(u".") : path.substr(0, slash));
+  return whole.empty() ? std::u16string(path) : common_.Join(whole, path.substr(named ? 0 : slash + 1));
 }
 
 std::u16string Document::ConvertLineEnds(std::u16string& text) const {
@@ -136,33 +125,19 @@ bool Document::AcceptsLength(const Opening& opening) {
 
 void Document::FinishOpening(const Opening& opening) {
   RestoreReadingPosition(opening.path);
-  constexpr std::u16string_view kReplaced = u"ｼﾌﾄJISとして読めないﾃﾞｰﾀを「・」に置き換えて開きました";
-  ApplyOpenedFile(opening.path, opening.readOnly, opening.lineEnd,
-                  opening.unreadable ? kReplaced : std::u16string_view());
+  ApplyOpenedFile(opening.path, opening.readOnly, opening.lineEnd, WordsFor(opening.loss));
   if (Named()) onDisk_ = opening.onDisk;  // it may have vanished while a question stood
   history_.RegisterHistory(opening.path);
-  unreadableBytes_ = opening.unreadable;
+  byteLoss_ = opening.loss;
   acceptedLoss_ = {};
 }
 
 void Document::RestoreReadingPosition(const std::u16string& path) {
   if (!SwitchedOn(common_, u"TextScrollPos")) return;
   const ReadingPosition position = positions_.Of(path);
-  control_.WM_SETREDRAW(false);
+  const RedrawOff frozen(control_);
   window_.SetScrollPosition(position.scroll);
   control_.SetSelStart(position.selStart);
-  control_.WM_SETREDRAW(true);
-}
-
-bool Document::HoldsUnreadableBytes(const std::u16string& path, std::u16string_view text) const {
-  const std::size_t dots = CountUnits(text, kUnreadable);
-  if (dots == 0) return false;
-  MiddleDotCounter counter;
-  const bool read = common_.PortSet().files.Read(path, [&counter](std::string_view bytes) {
-    counter.Append(bytes);
-    return true;
-  });
-  return read && counter.Count() < dots;
 }
 
 }  // namespace kestri

@@ -48,8 +48,18 @@ bool Document::TellOverwriteRefusal(const std::u16string& path) {
 
 bool Document::WriteDocument(std::u16string_view target) {
   const std::u16string path(target);
-  const bool itself = Named() && path == state_.currentFile;
-  return (itself ? AgreesToOverwrite(path) : AgreesToLossyCharacters(path)) && Write(path);
+  return (IsCurrentFile(path) ? AgreesToOverwrite(path) : AgreesToLossyCharacters(path)) && Write(path);
+}
+
+// By whatever name.
+bool Document::IsCurrentFile(const std::u16string& path) const {
+  if (!Named()) return false;
+  if (path == state_.currentFile) return true;
+  FileSystem& files = common_.PortSet().files;
+  const auto now = files.Status(path);
+  if (!now) return false;
+  const bool sameFile = onDisk_ && now->inode != 0 && now->inode == onDisk_->inode;
+  return sameFile || files.Canonical(path) == files.Canonical(state_.currentFile);
 }
 
 bool Document::Write(const std::u16string& path) {
@@ -88,7 +98,7 @@ void Document::FinishSaving(const std::u16string& path) {
     positions_.Remember(path, {window_.GetScrollPosition(), control_.SelStart()});
   }
   ApplyOpenedFile(path, ReadOnly::No, LineEndOnDisk());
-  unreadableBytes_ = false;
+  byteLoss_ = ByteLoss::None;
   history_.RegisterHistory(path);
   window_.MessageToStatusBar(u"保存完了");
   window_.RefreshTagView();

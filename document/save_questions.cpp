@@ -27,7 +27,7 @@ std::u16string ShownCharacter(const EditControl& control, const LossyCharacter& 
 }  // namespace
 
 bool Document::AgreesToOverwrite(const std::u16string& path) {
-  return AgreesToForeignChange(path) && AgreesToUnreadableBytes(path) && AgreesToLossyCharacters(path);
+  return AgreesToForeignChange(path) && AgreesToByteLoss(path) && AgreesToLossyCharacters(path);
 }
 
 bool Document::AgreesToForeignChange(const std::u16string& path) {
@@ -41,11 +41,14 @@ bool Document::AgreesToForeignChange(const std::u16string& path) {
          MessageAnswer::Yes;
 }
 
-bool Document::AgreesToUnreadableBytes(const std::u16string& path) {
-  if (!unreadableBytes_) return true;
+bool Document::AgreesToByteLoss(const std::u16string& path) {
+  if (byteLoss_ == ByteLoss::None) return true;
+  const bool utf8 = byteLoss_ == ByteLoss::Utf8;
   std::u16string text = QuotedName(common_, path);
-  text.append(kCrLf).append(u"このﾌｧｲﾙには ｼﾌﾄJISとして読めないﾃﾞｰﾀが含まれていました");
-  text.append(kCrLf).append(u"上書きすると その部分は「・」に置き換わり 元に戻せません");
+  text.append(kCrLf).append(utf8 ? u"このﾌｧｲﾙは UTF-8で書かれています"
+                                 : u"このﾌｧｲﾙには ｼﾌﾄJISとして読めないﾃﾞｰﾀが含まれていました");
+  text.append(kCrLf).append(utf8 ? u"上書きすると 一部のﾃﾞｰﾀが別のｺｰﾄﾞに置き換わり 元に戻せません"
+                                 : u"上書きすると その部分は「・」に置き換わり 元に戻せません");
   text.append(kCrLf).append(u"上書き保存しますか？");
   return Ask(kOverwriteCaption, text, MessageIcon::Exclamation, MessageButtons::YesNo, 2) ==
          MessageAnswer::Yes;

@@ -390,6 +390,20 @@ TEST_F(OpenDocument, RelativePathBecomesAWholeOne) {
   EXPECT_EQ(state.currentFile, common->GetLongPath(path));
 }
 
+TEST_F(OpenDocument, BlanksAtTheEndsOfARelativeNameBelongToIt) {
+  const auto here = std::filesystem::current_path();
+  MakeFile("trail.txt", "wrong\r\n");
+  const auto trailing = MakeFile("trail.txt ", "right\r\n");
+  const auto leading = MakeFile(" lead.txt", "right\r\n");
+  std::filesystem::current_path(std::filesystem::path(folder.Path()) / "work");
+  EXPECT_TRUE(Open(u"trail.txt "));
+  EXPECT_EQ(state.currentFile, common->GetLongPath(trailing));
+  EXPECT_TRUE(Open(u"./ lead.txt"));
+  EXPECT_EQ(state.currentFile, common->GetLongPath(leading));
+  std::filesystem::current_path(here);
+  EXPECT_EQ(control.Text(), u"right");
+}
+
 TEST_F(OpenDocument, OddFileNamesOpen) {
   for (const char* name :
        {"a b.txt", "\"quoted\".txt", "line\nbreak.txt", "é 😀.txt", "表;ソ=[x].txt", "'$(x)'.txt"}) {

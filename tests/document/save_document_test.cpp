@@ -344,6 +344,40 @@ TEST_F(SaveDocument, UnreadableBytesAreOverwrittenOnlyAfterYes) {
   EXPECT_EQ(boxes.asked.size(), 2U);
 }
 
+TEST_F(SaveDocument, AUtf8FileThatWouldComeBackChangedIsOverwrittenOnlyAfterYes) {
+  const std::string korean = "<p>\xED\x95\x9C\xEA\xB8\x80</p>\r\n";
+  const auto path = OpenAndType("a.htm", korean, u"x");
+  EXPECT_EQ(ToUtf8(window.messages.back()), "UTF-8のﾌｧｲﾙを ｼﾌﾄJISとして開きました");
+  EXPECT_FALSE(document->OverwriteSave());
+  ExpectBox(OnlyBox(), u"上書き保存の確認 Kestrile",
+            u"\"a.htm\"\r\nこのﾌｧｲﾙは UTF-8で書かれています\r\n"
+            u"上書きすると 一部のﾃﾞｰﾀが別のｺｰﾄﾞに置き換わり 元に戻せません\r\n上書き保存しますか？",
+            MessageIcon::Exclamation, MessageButtons::YesNo, 2);
+  EXPECT_EQ(Bytes(path), korean);
+}
+
+TEST_F(SaveDocument, WhatComesBackAsItWasIsNotAskedFor) {
+  for (const std::string& bytes : {std::string("\xED\x40 \x87\x90 \xFA\x54\r\n"),  // twins of other codes
+                                   std::string("\xB1\xB2\xB3\r\n"),                // half-width kana
+                                   std::string("plain\r\n"), std::string("\xC3\xA9\r\n")}) {
+    OpenAndType("a.txt", bytes, u"x");
+    EXPECT_TRUE(document->OverwriteSave());
+  }
+  EXPECT_TRUE(boxes.asked.empty());
+}
+
+TEST_F(SaveDocument, AnotherNameOfTheSameFileIsAskedForAsItselfIs) {
+  const auto path = OpenAndType("a.txt", "a\x81", u"x");
+  std::filesystem::create_symlink(ToUtf8(path), ToUtf8(Work("link.txt")));
+  std::filesystem::create_hard_link(ToUtf8(path), ToUtf8(Work("hard.txt")));
+  for (const char* other : {"link.txt", "hard.txt", "./a.txt"}) {
+    EXPECT_FALSE(document->WriteDocument(Work(other))) << other;
+    EXPECT_EQ(boxes.asked.back().caption, u"上書き保存の確認 Kestrile");
+  }
+  EXPECT_EQ(Bytes(path), "a\x81");
+  EXPECT_EQ(boxes.asked.size(), 3U);
+}
+
 TEST_F(SaveDocument, UnreadableBytesOfAnEarlierFileAreForgotten) {
   ASSERT_TRUE(Open(MakeFile("a.txt", "a\x81")));
   OpenAndType("b.txt", "b\r\n", u"x");
