@@ -19,6 +19,16 @@ QFont FontOf(const HintFont& wanted) {
   return font;
 }
 
+// As many characters of the line as the width takes, at least one; a blank in the second half is the better
+// place to break.
+qsizetype FittingLength(const QString& line, const QFontMetrics& metrics, int width) {
+  qsizetype fitting = 1;
+  while (fitting < line.size() && metrics.horizontalAdvance(line.left(fitting + 1)) <= width) ++fitting;
+  const qsizetype blank = line.lastIndexOf(u' ', fitting);
+  if (fitting < line.size() && blank > fitting / 2) return blank + 1;
+  return fitting > 1 && line.at(fitting - 1).isHighSurrogate() ? fitting - 1 : fitting;
+}
+
 }  // namespace
 
 LabelText::LabelText(QWidget& owner, std::function<QRect()> textArea, HintFont font)
@@ -36,11 +46,29 @@ void LabelText::SetText(std::u16string_view text) {
   update();
 }
 
+// The lines as they fit into the area that the box may cover.
+QStringList LabelText::ShownLines() const {
+  const QFontMetrics metrics(FontOf(hintFont_), this);
+  const int width = textArea_().width() - kMargins.left() - kMargins.right();
+  if (width < metrics.horizontalAdvance(QStringLiteral("漢字漢字"))) return lines_;
+  QStringList shown;
+  for (QString line : lines_) {
+    while (metrics.horizontalAdvance(line) > width && line.size() > 1) {
+      const qsizetype length = FittingLength(line, metrics, width);
+      shown << line.left(length);
+      line.remove(0, length);
+    }
+    shown << line;
+  }
+  return shown;
+}
+
 QSize LabelText::sizeHint() const {
   const QFontMetrics metrics(FontOf(hintFont_), this);
+  const QStringList shown = ShownLines();
   int width = 0;
-  for (const QString& line : lines_) width = std::max(width, metrics.horizontalAdvance(line));
-  const int height = static_cast<int>(lines_.size()) * metrics.lineSpacing();
+  for (const QString& line : shown) width = std::max(width, metrics.horizontalAdvance(line));
+  const int height = static_cast<int>(shown.size()) * metrics.lineSpacing();
   return QSize(width, height).grownBy(kMargins);
 }
 
@@ -72,7 +100,7 @@ void LabelText::paintEvent(QPaintEvent*) {
   painter.setFont(FontOf(hintFont_));
   const QFontMetrics metrics = painter.fontMetrics();
   int baseline = kMargins.top() + metrics.ascent();
-  for (const QString& line : lines_) {
+  for (const QString& line : ShownLines()) {
     painter.drawText(kMargins.left(), baseline, line);
     baseline += metrics.lineSpacing();
   }

@@ -22,6 +22,7 @@ class LabelText final : public QFrame, public HintBox {
   std::function<void()> pressed;  // a mouse button went down on it; may be left out
 
   QStringList Lines() const { return lines_; }
+  QStringList ShownLines() const;
   QSize sizeHint() const override;
 
   void SetText(std::u16string_view text) override;

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QTest>
 
+#include "platform/qt/qt_text.hpp"
 #include "tags/forms/view_caret_place.hpp"
 #include "tests/fakes/completion_world.hpp"
 #include "ui/edit_view.hpp"
@@ -50,6 +51,20 @@ TEST_F(LabelTextTest, StandsUnderTheLineOfTheCaret) {
 TEST_F(LabelTextTest, StaysInTheTextArea) {
   Put(std::u16string(60, u'x') + u"<a‸>");
   EXPECT_TRUE(view->viewport()->geometry().contains(box.geometry()));
+}
+
+TEST_F(LabelTextTest, LinesThatAreTooLongForTheTextAreaAreBroken) {
+  window.resize(260, 400);
+  QCoreApplication::processEvents();
+  Put(u"<a‸>");
+  const QString words =
+      QStringLiteral("長い説明です。 <table border=\"1\" cellspacing=\"0\" class=\"note\"> 折り返します。");
+  hint.TipComments(FromQt(words));
+  EXPECT_GT(box.ShownLines().size(), 1);
+  EXPECT_EQ(box.ShownLines().join(QString()), words);
+  EXPECT_TRUE(view->viewport()->geometry().contains(box.geometry()));
+  for (const QString& line : box.ShownLines())
+    EXPECT_LE(box.fontMetrics().horizontalAdvance(line), box.width());
 }
 
 TEST_F(LabelTextTest, IsAsLargeAsItsLines) {
