@@ -141,8 +141,8 @@ std::u16string TextTransforms::LineCodeCaption() const {
 bool TextTransforms::HasRoomFor(std::size_t unitsInEachLine) const {
   const EditControl& control = text_.Control();
   const Position start = control.SelStart();
-  const auto lines =
-      static_cast<std::size_t>(control.LineOf(start + control.SelLength()) - control.LineOf(start) + 1);
+  const std::int32_t below = control.LineOf(start + control.SelLength()) - control.LineOf(start);
+  const std::size_t lines = static_cast<std::size_t>(below) + 1;
   return static_cast<std::size_t>(control.Length()) + lines * unitsInEachLine <= kLongestText;
 }
 

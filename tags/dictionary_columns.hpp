@@ -14,7 +14,7 @@ namespace kestri {
 // first.
 struct ColumnShape {
   std::string_view section;
-  std::string_view keyPrefix = "";
+  std::string_view keyPrefix = {};
   int first = 1;
 };
 

@@ -37,8 +37,8 @@ void CandidateDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
   painter->save();
   if (selected) painter->fillRect(option.rect, option.palette.brush(QPalette::Active, QPalette::Highlight));
 
-  const QRectF icon(option.rect.left() + kMargin, option.rect.center().y() + 1 - kCandidateIconSize / 2,
-                    kCandidateIconSize, kCandidateIconSize);
+  const int top = option.rect.center().y() + 1 - kCandidateIconSize / 2;
+  const QRectF icon(option.rect.left() + kMargin, top, kCandidateIconSize, kCandidateIconSize);
   painter->setOpacity(ghosted ? kGhostedOpacity : 1);
   PaintCandidateIcon(*painter, icon, row.icon);
   painter->setOpacity(1);

@@ -20,7 +20,7 @@ QWidget* PickerButtons(QDialog& form, const char* name, const QString& cancelCap
   return buttons;
 }
 
-Picked RunPicker(QPointer<QDialog> form, QWidget* owner) {
+Picked RunPicker(const QPointer<QDialog>& form, QWidget* owner) {
   form->setParent(owner == nullptr ? nullptr : owner->window(), form->windowFlags());
   const int result = form->exec();
   if (form == nullptr) return Picked::No;

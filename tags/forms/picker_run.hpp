@@ -12,6 +12,6 @@ QWidget* PickerButtons(QDialog& form, const char* name, const QString& cancelCap
 enum class Picked { No, Yes };
 
 // Modal over the owner's window, which may be none. The form is gone when the owner went meanwhile.
-Picked RunPicker(QPointer<QDialog> form, QWidget* owner);
+Picked RunPicker(const QPointer<QDialog>& form, QWidget* owner);
 
 }  // namespace kestri

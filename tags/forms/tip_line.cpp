@@ -43,7 +43,8 @@ void TipLine::paintEvent(QPaintEvent*) {
   painter.drawLine(0, 0, width(), 0);
   int left = kMargin;
   if (icon_) {
-    const QRectF place(left, (height() - kCandidateIconSize) / 2 + 1, kCandidateIconSize, kCandidateIconSize);
+    const int top = (height() - kCandidateIconSize) / 2 + 1;
+    const QRectF place(left, top, kCandidateIconSize, kCandidateIconSize);
     PaintCandidateIcon(painter, place, *icon_);
     left += kCandidateIconSize + kMargin;
   }
