@@ -310,6 +310,7 @@ void EditView::changeEvent(QEvent* event) {
 }
 
 void EditView::resizeEvent(QResizeEvent*) {
+  pictureTimer_.stop();
   PlaceFrame();
   if (!styleBuilt_) return;
   UpdateScrollRanges();

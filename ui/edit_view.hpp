@@ -266,7 +266,7 @@ class EditView : public QAbstractScrollArea, public EditControlEvents, public Co
   bool caretLit_ = false;
   QBasicTimer blinkTimer_;
   QBasicTimer idleTimer_;
-  QBasicTimer pictureTimer_;  // runs from a painting until the next scrolling at most
+  QBasicTimer pictureTimer_;  // runs from a painting until the next scrolling or resizing at most
   QPoint paintedPixel_;       // of the window
   QBasicTimer autoScrollTimer_;
 
