@@ -10,8 +10,8 @@ namespace kestri {
 namespace {
 
 constexpr char16_t kMiddleDot = u'・';
-constexpr std::size_t kMostCompared = 16u
-                                      << 20;  // bytes; a longer UTF-8 file counts as one that would change
+// Bytes; a longer UTF-8 file counts as one that would change.
+constexpr std::size_t kMostCompared = 16u << 20;
 
 // Counts the two-byte code of the middle dot in a file that arrives in pieces.
 class MiddleDotCounter {
@@ -69,11 +69,11 @@ bool HoldsUnreadableBytes(FileSystem& files, std::u16string_view path, std::u16s
   return read && counter.Count() < dots;
 }
 
-// A page in the code page stops being UTF-8 at its first word, so that next to nothing is read of it.
+// A page in the code page stops being UTF-8 at its first word, so that next to nothing is read of it. One of
+// single bytes alone, ASCII or half-width kana, comes back as it was.
 bool WouldChangeUtf8(FileSystem& files, std::u16string_view path, std::u16string_view text) {
   const auto status = files.Status(path);
-  if (!status || status->size <= text.size() + kCrLf.size())
-    return false;  // single bytes come back as they were
+  if (!status || status->size <= text.size() + kCrLf.size()) return false;
   Utf8Watch watch;
   std::string begin;
   const bool read = files.Read(path, [&](std::string_view bytes) {

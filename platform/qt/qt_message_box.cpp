@@ -60,7 +60,7 @@ QString Breakable(const QString& text) {
   for (const QChar character : text) {
     const bool breaks = character.isSpace() || character.unicode() >= 0x2E80;
     run = breaks || run == kLongestWord ? 0 : run + 1;
-    if (!breaks && run == 0 && !character.isLowSurrogate()) result += kBreak;
+    if (!breaks && run == 0) result += kBreak;
     result += character;
   }
   return result;
